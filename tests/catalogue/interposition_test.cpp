@@ -1,0 +1,134 @@
+// A program that defines the loader itself takes the place of the library that brings one: every
+// text of the catalogue comes from here.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <utility>
+#include <vector>
+
+#include <mqPostCommon/catalogue/lookup.h>
+#include <mqPostCommon/catalogue/names.h>
+#include <mqPostCommon/platform/comm_funcs.h>
+#include <mqPostCommon/platform/integers.h>
+#include <mqPostCommon/platform/text.h>
+#include <mqPostCommon/platform/wide_string.h>
+
+namespace {
+
+/// The texts of this program, and the ids that it was asked for in their order.
+struct OwnTable {
+  std::map<UINT, CString> texts;
+  std::vector<UINT> asked;
+};
+
+OwnTable& Table() {
+  static OwnTable table;
+  return table;
+}
+
+}  // namespace
+
+/// Unlike the stand-in, leaves the text alone when it has none for the id.
+int mqpLoadString(CString& text, UINT id) {
+  Table().asked.push_back(id);
+  const auto found = Table().texts.find(id);
+  if (found == Table().texts.end()) {
+    return 0;
+  }
+  text = found->second;
+  return 1;
+}
+
+namespace mqp::test {
+namespace {
+
+using Ids = std::vector<UINT>;
+
+class OwnStringTableTest : public testing::Test {
+ protected:
+  OwnStringTableTest() { Table() = {}; }
+
+  static void Set(UINT id, const mqChar* text) { Table().texts[id] = CString(text); }
+  static Ids TakeAsked() { return std::exchange(Table().asked, {}); }
+};
+
+TEST_F(OwnStringTableTest, NamesComeFromIt) {
+  Set(52941, MQ_TEXT("Verschiebung"));
+  Set(54578, MQ_TEXT("UX: Verschiebung in X"));
+  Set(53981, MQ_TEXT("UX"));
+  Set(54782, MQ_TEXT("X"));
+  Set(55144, MQ_TEXT("Diagramm"));
+  EXPECT_EQ(vekPostCommonGetResultName(1), MQ_TEXT("Verschiebung"));
+  EXPECT_EQ(vekPostCommonGetComponentName(0, 1, 0, 0, 0, 0), MQ_TEXT("UX: Verschiebung in X"));
+  EXPECT_EQ(vekPostCommonGetComponentNameBar(0, 1, 0, 0, 0, 0), MQ_TEXT("UX"));
+  EXPECT_EQ(vekPostCommonGetComponentNameShort(0, 1, 0, 0), MQ_TEXT("UX"));
+  EXPECT_EQ(vekPostCommonGetComponentNameBrief(0, 1, 0, 0), MQ_TEXT("X"));
+  EXPECT_EQ(vekPostCommonGetGraphNameForReport(0, 63, 0, 0), MQ_TEXT("Diagramm"));
+}
+
+TEST_F(OwnStringTableTest, LookUpsReadIt) {
+  Set(54578, MQ_TEXT("UX: Verschiebung in X"));
+  Set(54579, MQ_TEXT("UY: Verschiebung in Y"));
+  EXPECT_EQ(vekPostCommonGetComponentIndexByName(0, 1, 0, MQ_TEXT("UY: egal"), 0), 1);
+  EXPECT_EQ(vekPostCommonGetComponentIndexByName(0, 1, 0, MQ_TEXT("DX"), 0), -1);
+  EXPECT_EQ(vekPostCommonGetResultTypeByComponentName(MQ_TEXT("UY")), 1);
+  EXPECT_EQ(vekPostCommonGetResultTypeByComponentName(MQ_TEXT("DX")), 9999);
+}
+
+TEST_F(OwnStringTableTest, ATextIsLoadedAnewForEveryCall) {
+  Set(54578, MQ_TEXT("DX: along X"));
+  EXPECT_EQ(vekPostCommonGetComponentName(0, 1, 0, 0, 0, 0), MQ_TEXT("DX: along X"));
+  Set(54578, MQ_TEXT("UX: in X"));
+  EXPECT_EQ(vekPostCommonGetComponentName(0, 1, 0, 0, 0, 0), MQ_TEXT("UX: in X"));
+  EXPECT_EQ(TakeAsked(), (Ids{54578, 54578}));
+}
+
+TEST_F(OwnStringTableTest, NothingIsAskedForWhereThereIsNoName) {
+  EXPECT_EQ(vekPostCommonGetComponentName(0, 1, 0, 15, 0, 0), MQ_TEXT(""));
+  EXPECT_EQ(vekPostCommonGetComponentNameBar(10, 6, 0, 0, 0, 0), MQ_TEXT(""));
+  EXPECT_EQ(vekPostCommonGetComponentNameBrief(10, 6, 0, 0), MQ_TEXT(""));
+  EXPECT_EQ(vekPostCommonGetGraphNameForReport(0, 2, 0, 0), MQ_TEXT(""));
+  EXPECT_EQ(vekPostCommonGetComponentIndexByName(4, 1, 0, MQ_TEXT("DX"), 0), -1);
+  EXPECT_EQ(vekPostCommonGetComponentIndexByName(0, 1, 0, MQ_TEXT(""), 0), -1);
+  EXPECT_EQ(TakeAsked(), Ids());
+}
+
+TEST_F(OwnStringTableTest, ATextThatItLacksIsEmpty) {
+  EXPECT_EQ(vekPostCommonGetResultName(1), MQ_TEXT(""));
+  EXPECT_EQ(vekPostCommonGetComponentName(0, 1, 0, 0, 0, 0), MQ_TEXT(""));
+  EXPECT_EQ(vekPostCommonGetComponentNameBrief(0, 1, 0, 0), MQ_TEXT(""));
+  EXPECT_EQ(vekPostCommonGetGraphNameForReport(5, 1, 0, 0), MQ_TEXT(""));
+  EXPECT_EQ(TakeAsked(), (Ids{52941, 54578, 54782, 54715}));
+}
+
+TEST_F(OwnStringTableTest, ABarNameThatItLacksFallsBackToTheFullName) {
+  Set(54578, MQ_TEXT("UX: in X"));
+  EXPECT_EQ(vekPostCommonGetComponentNameBar(0, 1, 0, 0, 0, 0), MQ_TEXT("UX"));
+  EXPECT_EQ(TakeAsked(), (Ids{53981, 54578}));
+}
+
+TEST_F(OwnStringTableTest, NothingIsAskedForInPlaceOfABarNameOfResultTypes53And54) {
+  EXPECT_EQ(vekPostCommonGetComponentNameBar(0, 53, 0, 0, 0, 0), MQ_TEXT(""));
+  EXPECT_EQ(vekPostCommonGetComponentNameBar(0, 54, 0, 5, 0, 0), MQ_TEXT(""));
+  EXPECT_EQ(vekPostCommonGetComponentNameBar(0, 54, 0, 6, 0, 0), MQ_TEXT(""));
+  EXPECT_EQ(TakeAsked(), (Ids{50507, 51761}));
+}
+
+TEST_F(OwnStringTableTest, NoCandidateIsFoundInAnEmptyTable) {
+  EXPECT_EQ(vekPostCommonGetComponentIndexByName(0, 1, 0, MQ_TEXT("DX: along X"), 0), -1);
+  EXPECT_EQ(vekPostCommonGetComponentIndexByName(0, 1, 0, MQ_TEXT("DX: along X"), 1), -1);
+  EXPECT_EQ(vekPostCommonGetResultTypeByComponentName(MQ_TEXT("DX: along X")), 9999);
+}
+
+TEST_F(OwnStringTableTest, CandidatesAreAskedForInTheirOrderUntilOneMatches) {
+  EXPECT_EQ(vekPostCommonGetComponentIndexByName(8, 19, 0, MQ_TEXT("none"), 0), -1);
+  EXPECT_EQ(TakeAsked(), (Ids{54405, 54406, 54407, 54408, 54409, 54410, 54411, 54419}));
+  Set(54407, MQ_TEXT("VZ: along Z"));
+  EXPECT_EQ(vekPostCommonGetComponentIndexByName(8, 19, 0, MQ_TEXT("VZ"), 0), 2);
+  EXPECT_EQ(TakeAsked(), (Ids{54405, 54406, 54407}));
+  EXPECT_EQ(vekPostCommonGetComponentIndexByName(1, 1, 0, MQ_TEXT("none"), 0), -1);
+  EXPECT_EQ(TakeAsked(), (Ids{54578, 54865, 54579, 54866, 54580, 54867, 50341, 54868}));
+}
+
+}  // namespace
+}  // namespace mqp::test
