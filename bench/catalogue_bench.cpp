@@ -5,8 +5,8 @@
 #include <thread>
 #include <vector>
 
-#include <mqPostCommon/mqPostCommon.h>
 #include <storage/memory_stream.h>
+#include <mqPostCommon/mqPostCommon.h>
 
 #include "empty_functions.h"
 #include "ratio_table.h"
@@ -96,8 +96,8 @@ void RegisterNumbers() {
   Compare(
       "envelope bounds",
       [](const Query& q) {
-        Keep(vekPostCommonGetEnvelopBoundTotal(q.analysisType, q.resultType, q.component,
-                                               q.option));
+        Keep(
+            vekPostCommonGetEnvelopBoundTotal(q.analysisType, q.resultType, q.component, q.option));
       },
       [](const Query& q) {
         Keep(EmptyQuery(q.analysisType, q.resultType, q.component, q.option));
@@ -122,8 +122,8 @@ void RegisterNumbers() {
   Compare(
       "default unit of a system",
       [](const Query& q) {
-        Keep(vekPostCommonGetComponentUnitsBasedOnSystemUnit(q.option, q.analysisType,
-                                                             q.resultType, q.component, 2, 1));
+        Keep(vekPostCommonGetComponentUnitsBasedOnSystemUnit(q.option, q.analysisType, q.resultType,
+                                                             q.component, 2, 1));
       },
       [](const Query& q) {
         Keep(EmptyUnitDefault(q.option, q.analysisType, q.resultType, q.component, 2, 1));
@@ -147,8 +147,8 @@ void RegisterTexts() {
   Compare(
       "full name",
       [](const Query& q) {
-        Keep(vekPostCommonGetComponentName(q.analysisType, q.resultType, 0, q.component,
-                                           q.meshKind, q.option));
+        Keep(vekPostCommonGetComponentName(q.analysisType, q.resultType, 0, q.component, q.meshKind,
+                                           q.option));
       },
       [](const Query& q) {
         Keep(EmptyName(q.analysisType, q.resultType, 0, q.component, q.meshKind, q.option));

@@ -262,8 +262,7 @@ int vekPostCommonGetComponentTotal(int analysisType, int resultType, int extraSt
                                    int /*ignored*/, int moreStress, int meshFlags,
                                    int dynamicOption, int dynamicChoice) noexcept {
   using namespace mqp;
-  const When given = MeshConditions(meshKind, meshFlags) |
-                     If(extraStress != 0, When::ExtraStress) |
+  const When given = MeshConditions(meshKind, meshFlags) | If(extraStress != 0, When::ExtraStress) |
                      If(extraStress != 0 && moreStress != 0, When::ExtraAndMoreStress) |
                      If(dynamicOption == 1 && dynamicChoice == 7, When::WideDynamicStress);
   return kCountIndex[CellOf(analysisType, resultType)].Pick(given);
@@ -285,8 +284,7 @@ int vekPostCommonGetComponentDataType(int analysisType, int resultType, int comp
 int vekPostCommonGetComponentDefault(int analysisType, int resultType, int /*ignored*/,
                                      int meshKind, int dynamicOption) noexcept {
   using namespace mqp;
-  const When given =
-      MeshConditions(meshKind, 0) | If(dynamicOption == 1, When::DynamicOption1);
+  const When given = MeshConditions(meshKind, 0) | If(dynamicOption == 1, When::DynamicOption1);
   return kDefaultIndex[CellOf(analysisType, resultType)].Pick(given);
 }
 

@@ -29,15 +29,17 @@ constexpr Candidates Numbered(const Names& names, int first = 0) {
   return candidates;
 }
 
-constexpr Candidates One(NameId id, int component) { return Numbered(Ids16(id), component); }
+constexpr Candidates One(NameId id, int component) {
+  return Numbered(Ids16(id), component);
+}
 
 /// Two names of each component, one tried behind the other: of real and of normalised modes.
 constexpr Candidates Either(const Names& names, const Names& others, int first) {
   Candidates candidates;
   for (int place = 0; place < names.count; ++place) {
     const auto at = static_cast<std::size_t>(place);
-    candidates = candidates + One(names.values[at], first + place) +
-                 One(others.values[at], first + place);
+    candidates =
+        candidates + One(names.values[at], first + place) + One(others.values[at], first + place);
   }
   return candidates;
 }

@@ -259,8 +259,8 @@ CString vekPostCommonGetComponentNameBar(int analysisType, int resultType, int p
   const When given =
       ModeCondition() | BeamCondition(meshKind) | If(fatigueVariant == 1, When::FatigueVariant);
   CString text = LoadName(kBarIndex.At(analysisType, resultType, given, component));
-  const bool fallsBack = resultType != Code(ResultType::ResultType53) &&
-                         resultType != Code(ResultType::ResultType54);
+  const bool fallsBack =
+      resultType != Code(ResultType::ResultType53) && resultType != Code(ResultType::ResultType54);
   if (text.IsEmpty() && fallsBack) {
     text = CutAtColon(
         vekPostCommonGetComponentName(analysisType, resultType, passOn, component, 0, 0));

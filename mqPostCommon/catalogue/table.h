@@ -52,8 +52,7 @@ class CodeSet {
   }
   /// One more than the largest member; 0 for an empty set.
   [[nodiscard]] constexpr int End() const {
-    return m_words[1] != 0 ? 128 - std::countl_zero(m_words[1])
-                           : 64 - std::countl_zero(m_words[0]);
+    return m_words[1] != 0 ? 128 - std::countl_zero(m_words[1]) : 64 - std::countl_zero(m_words[0]);
   }
   friend constexpr CodeSet operator|(CodeSet left, const CodeSet& right) {
     left.m_words[0] |= right.m_words[0];
@@ -135,7 +134,9 @@ struct ComponentSet {
   bool others = false;  ///< every index that no row lists, negative ones included
 };
 
-constexpr ComponentSet To(int first, int last) { return CodeSet::Range(first, last); }
+constexpr ComponentSet To(int first, int last) {
+  return CodeSet::Range(first, last);
+}
 constexpr ComponentSet operator|(const ComponentSet& left, const ComponentSet& right) {
   return {left.listed | right.listed, left.others || right.others};
 }
@@ -145,6 +146,7 @@ inline constexpr ComponentSet kOthers{CodeSet(), true};
 // Conditions
 
 /// Under which condition a row holds. The functions translate their options into these bits.
+// clang-format off
 enum class When : std::uint16_t {
   Always             = 0,
   Rotational         = 1 << 0,   ///< shell, beam, or a mixed mesh with rotational elements
@@ -163,6 +165,7 @@ enum class When : std::uint16_t {
   FatigueVariant     = 1 << 13,
   ChartVariant       = 1 << 14,
 };
+// clang-format on
 
 constexpr When If(bool holds, When condition) noexcept {
   return holds ? condition : When::Always;
@@ -369,8 +372,7 @@ class ListPool {
 /// it. Rows with the condition go before those without one, or replace them.
 template <class Row>
 constexpr std::vector<typename Row::Value> MergeRows(const std::vector<const Row*>& rows,
-                                                     When condition,
-                                                     typename Row::Value nothing) {
+                                                     When condition, typename Row::Value nothing) {
   std::vector<const Row*> merging;
   for (const When pass : {condition, When::Always}) {
     if (pass == When::Always && Row::kReplacesList && !merging.empty()) {

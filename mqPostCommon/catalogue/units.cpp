@@ -13,7 +13,9 @@ using Unit = std::uint8_t;
 
 constexpr Unit kNoUnit = 255;
 
-constexpr Unit In(UnitType type) { return type == UnitType::None ? kNoUnit : static_cast<Unit>(type); }
+constexpr Unit In(UnitType type) {
+  return type == UnitType::None ? kNoUnit : static_cast<Unit>(type);
+}
 
 // clang-format off
 
@@ -219,7 +221,7 @@ constexpr std::size_t CountUnitsOfNames() {
 }
 
 struct UnitNames {
-  std::array<std::uint16_t, kUnitTypes + 1> firstName;      ///< by quantity
+  std::array<std::uint16_t, kUnitTypes + 1> firstName;    ///< by quantity
   std::array<std::uint16_t, CountNames() + 1> firstUnit;  ///< by name
   std::array<mqChar, CountUnitsOfNames()> units;
 };
@@ -269,7 +271,9 @@ int vekPostCommonGetUnitType(int analysisType, int resultType, int component, in
   return unit == kNoUnit ? Code(UnitType::None) : unit;
 }
 
-int vekPostCommonGetUnitTotal(int unitType) noexcept { return mqp::ChoiceOf(unitType).offered; }
+int vekPostCommonGetUnitTotal(int unitType) noexcept {
+  return mqp::ChoiceOf(unitType).offered;
+}
 
 CString vekPostCommonGetUnitName(int unitType, int index) {
   using namespace mqp;

@@ -32,6 +32,8 @@ MQPOSTCOMMON_API CString vekPostCommonGetUnitName(int unitType, int index);
 /// of `vekPostCommonGetUnitType`.
 /// \param unitSystem a `UnitSystem`; every code but 0 and 1 counts as `UnitSystem::Metric`
 /// \return an index for `vekPostCommonGetUnitName`; 0 where no unit exists
-MQPOSTCOMMON_API int vekPostCommonGetComponentUnitsBasedOnSystemUnit(
-    int unitSystem, int analysisType, int resultType, int component, int option,
-    int optionFlag) noexcept;
+MQPOSTCOMMON_API int vekPostCommonGetComponentUnitsBasedOnSystemUnit(int unitSystem,
+                                                                     int analysisType,
+                                                                     int resultType, int component,
+                                                                     int option,
+                                                                     int optionFlag) noexcept;

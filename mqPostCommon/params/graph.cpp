@@ -43,7 +43,9 @@ CString Load(UINT id) {
   return text;
 }
 
-CString InBrackets(const CString& text) { return MQ_TEXT(" (") + text + MQ_TEXT(")"); }
+CString InBrackets(const CString& text) {
+  return MQ_TEXT(" (") + text + MQ_TEXT(")");
+}
 
 // ---------------------------------------------------------------------------------------------
 // The record
@@ -101,11 +103,10 @@ bool NeedsYUnit(const CmqPostGraphParam& graph) noexcept {
     return false;
   }
   const int component = axis.m_nComponent;
-  const bool reaction = graph.m_nResultType == Code(ResultType::Displacement) &&
-                        ((component >= 4 && component <= 7) ||
-                         (component >= 11 && component <= 14));
-  return reaction ||
-         (graph.m_nAnalysisType == Code(AnalysisType::Dynamic) && component == 3);
+  const bool reaction =
+      graph.m_nResultType == Code(ResultType::Displacement) &&
+      ((component >= 4 && component <= 7) || (component >= 11 && component <= 14));
+  return reaction || (graph.m_nAnalysisType == Code(AnalysisType::Dynamic) && component == 3);
 }
 
 /// A stress component was inserted at 11: the ones behind it moved up.
@@ -166,7 +167,8 @@ CString NameBeamStress(int component) {
 }  // namespace mqp
 
 CmqPostGraphParam::CmqPostGraphParam()
-    : CmqPostGraphParam(mqp::Code(AnalysisType::Stepped), mqp::Code(ResultType::Stress), 0, 0, -1) {}
+    : CmqPostGraphParam(mqp::Code(AnalysisType::Stepped), mqp::Code(ResultType::Stress), 0, 0, -1) {
+}
 
 CmqPostGraphParam::CmqPostGraphParam(int analysisType, int resultType, int resultOption,
                                      int meshKind, int dynamicOption) {
@@ -186,9 +188,8 @@ void CmqPostGraphParam::ConstructInit(int analysisType, int resultType, int resu
   defaults.m_mapHost38.swap(m_mapHost38);
   *this = defaults;
 
-  const int storedType = resultType == mqp::Code(ResultType::GraphStress)
-                             ? mqp::Code(ResultType::Stress)
-                             : resultType;
+  const int storedType =
+      resultType == mqp::Code(ResultType::GraphStress) ? mqp::Code(ResultType::Stress) : resultType;
   m_nAnalysisType = analysisType;
   m_nResultType = storedType;
   m_nResultOption = resultOption;
@@ -224,9 +225,8 @@ CString CmqPostGraphParam::GetYTitle(int nameOption, int flag) const {
   if (dynamic && m_nDynamicOption == kSpectralOption && IsMotion(m_YAxis.m_nQuantityType)) {
     const CString title = vekPostCommonGetComponentNameShort(m_nAnalysisType, m_nResultType,
                                                              m_nResultOption, m_YAxis.m_nComponent);
-    return m_nYUnitFlag != 0
-               ? title + MQ_TEXT("-") + Load(53044) + InBrackets(NameYUnit(*this))
-               : title + MQ_TEXT("-") + Load(54441) + InBrackets(Load(54684));
+    return m_nYUnitFlag != 0 ? title + MQ_TEXT("-") + Load(53044) + InBrackets(NameYUnit(*this))
+                             : title + MQ_TEXT("-") + Load(54441) + InBrackets(Load(54684));
   }
   if (dynamic && m_YAxis.m_nQuantityType == Code(ResultType::Stress) &&
       (nameOption == Code(MeshKind::BeamMesh) ||
@@ -235,8 +235,7 @@ CString CmqPostGraphParam::GetYTitle(int nameOption, int flag) const {
   }
   CString title = vekPostCommonGetComponentNameBar(m_nAnalysisType, m_nResultType, m_nResultOption,
                                                    m_YAxis.m_nComponent, nameOption, 0);
-  if (dynamic && m_nDynamicOption == kFrequencyOption &&
-      m_XAxis.m_nQuantityType == kStepQuantity) {
+  if (dynamic && m_nDynamicOption == kFrequencyOption && m_XAxis.m_nQuantityType == kStepQuantity) {
     title += MQ_TEXT(" ") + Load(54477);
   }
   return title + InBrackets(NameYUnit(*this));

@@ -14,7 +14,7 @@
 
 /// What one axis of a graph shows.
 struct CmqGraphAxis {
-  int m_nQuantityType = 0;  ///< a `ResultType`, or 14 or 16 for a quantity that is no result; 0: nothing
+  int m_nQuantityType = 0;  ///< a `ResultType`; 14 and 16 are no results, 0 is nothing
   int m_nComponent = 0;     ///< 0-based component of the result
   int m_nUnit = 0;          ///< unit index within the unit type of the component
   int m_nSensor = -1;       ///< -1: none

@@ -804,27 +804,6 @@ TEST(GraphRecord, ReadsThatFailFromSomeCallOnAreSurvived) {
   }
 }
 
-TEST(GraphRecord, ARefusedReadCostsNoFieldBeforeIt) {
-  // Where the fields of a newest record with empty strings end; an array is one field.
-  constexpr std::size_t kEnds[] = {0,   4,   8,   12,  16,  24,  28,  36,  40,  44,  48,  52,
-                                   56,  60,  64,  68,  72,  76,  80,  104, 176, 180, 184, 312,
-                                   324, 328, 344, 348, 352, 356, 360, 364, 380, 388, 392};
-  CmqPostGraphParam stored = FilledGraph(1);
-  for (CString& text : stored.m_strHost18) {
-    text.Empty();
-  }
-  stored.m_strHost20.Empty();
-  const ByteString bytes = BuildRecord(stored, 890110);
-  for (const std::size_t end : kEnds) {
-    const ByteString delivered = FirstBytes(bytes, end);
-    WholeOrNothingStream stream(delivered);
-    CmqPostGraphParam graph = FilledGraph(2);
-    EXPECT_EQ(graph.ReadFromStream(&stream, 890110), 1);
-    EXPECT_EQ(Differences(graph, Expect(FilledGraph(2), delivered, 890110)), "")
-        << "the stream ends at byte " << end;
-  }
-}
-
 TEST(GraphRecord, ShortReadsThatClaimSuccessAreSurvived) {
   for (const ULONG limit : {0U, 1U, 2U, 3U, 5U, 7U, 9U}) {
     for (const int version : kGates) {

@@ -171,19 +171,6 @@ class GrudgingStream : public host::MemoryStream {
   ULONG m_limit;
 };
 
-/// Refuses a read of more bytes than are left and stays where it is.
-class WholeOrNothingStream : public host::MemoryStream {
- public:
-  using MemoryStream::MemoryStream;
-  HRESULT Read(void* buffer, ULONG size, ULONG* transferred) override {
-    if (size > Bytes().size() - Position()) {
-      Answer(transferred, 0);
-      return E_FAIL;
-    }
-    return MemoryStream::Read(buffer, size, transferred);
-  }
-};
-
 /// Works until a number of calls have succeeded, and fails from then on.
 class WearyStream : public host::MemoryStream {
  public:

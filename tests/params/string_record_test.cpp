@@ -357,13 +357,6 @@ TEST(StringRecord, RefusedAndShortWritesAreNotLookedAt) {
   }
 }
 
-TEST(StringRecord, TheCountIsWrittenThoughTheCharactersAreRefused) {
-  WearyStream stream({}, 1);
-  CString text = MQ_TEXT("abc");
-  EXPECT_EQ(CStringWriteToStream(&stream, &text), 1);
-  EXPECT_EQ(Hex(stream.Bytes()), Hex(RecordBytes().Integer(3).Get()));
-}
-
 TEST(StringRecord, TheNumberOfTransferredBytesIsNotAskedFor) {
   CountingStream stream;
   CString text = MQ_TEXT("abc");

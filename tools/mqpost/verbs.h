@@ -1,0 +1,18 @@
+/// \file
+/// The verbs: each reads its part of the command line, answers, and returns how it ended.
+#pragma once
+
+#include "session.h"
+
+namespace mqp::tool {
+
+ExitCode RunList(Session& session);
+ExitCode RunShow(Session& session);
+ExitCode RunFind(Session& session);
+ExitCode RunUnits(Session& session);
+ExitCode RunStrings(Session& session);
+ExitCode RunLs(Session& session);
+ExitCode RunGraph(Session& session);
+ExitCode RunConvert(Session& session);
+
+}  // namespace mqp::tool
