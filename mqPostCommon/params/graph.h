@@ -79,8 +79,8 @@ class MQPOSTCOMMON_API CmqPostGraphParam {
 
   /// Reads a record of a document and brings older ones up to date: a Y unit flag of 0 that the
   /// shown component rules out becomes 1, and stress components from 11 on move up by one in
-  /// documents before 890002. Fields that the version lacks, and those that a short stream does
-  /// not deliver, keep their values.
+  /// documents before 890002. Fields that the version lacks, and those that a stream which ends
+  /// early does not deliver, keep their values.
   /// \param stream  positioned at the record, owned by the caller
   /// \param version the version of the document, at least 800018
   /// \return 1; 0 for a null stream or an older version, with nothing read or changed

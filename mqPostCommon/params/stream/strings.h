@@ -22,7 +22,7 @@ MQPOSTCOMMON_API int CStringWriteToStream(IStream* stream, CString* text);
 /// Reads a string record. A zero unit ends the text early; all its units are consumed all the
 /// same. Of a record that claims more than 1024 units the first 1024 are read.
 /// \param stream the stream, owned by the caller
-/// \param text   receives the text; keeps its value when the count is 0 or less, or could not be
-///               read: an empty text is written as a count of 0 and does not come back
+/// \param text   receives the text; keeps its value when the count is 0 or less, as it is when
+///               nothing of it could be read. So an empty text does not come back
 /// \return 1; 0 when either pointer is null or the count is 0 or less
 MQPOSTCOMMON_API int CStringReadFromStream(IStream* stream, CString* text);
