@@ -1,7 +1,9 @@
 #include "ratio_table.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
+#include <utility>
 
 namespace mqp::bench {
 namespace {
@@ -16,8 +18,10 @@ class Collector : public benchmark::BenchmarkReporter {
         const std::string name = run.run_name.function_name;
         const std::size_t slash = name.rfind('/');
         const std::string operation = name.substr(0, slash);
-        if (!m_times.contains(operation)) {
-          m_order.push_back(operation);
+        // Registered first is printed first, in whatever order the repetitions ran.
+        const auto placed = m_order.find(operation);
+        if (placed == m_order.end() || run.family_index < placed->second) {
+          m_order[operation] = run.family_index;
         }
         m_times[operation][name.substr(slash + 1)].push_back(run.GetAdjustedCPUTime());
       }
@@ -25,8 +29,13 @@ class Collector : public benchmark::BenchmarkReporter {
   }
 
   void Print() {
+    std::vector<std::pair<std::int64_t, std::string>> operations;
+    for (const auto& [operation, place] : m_order) {
+      operations.emplace_back(place, operation);
+    }
+    std::ranges::sort(operations);
     std::printf("%-44s %10s %10s %8s\n", "operation", "ours ns", "limit ns", "ratio");
-    for (const std::string& operation : m_order) {
+    for (const auto& [place, operation] : operations) {
       const double ours = Median(m_times[operation][kOurs]);
       const double limit = Median(m_times[operation][kLimit]);
       std::printf("%-44s %10.2f %10.2f %7.2fx\n", operation.c_str(), ours, limit, ours / limit);
@@ -40,7 +49,7 @@ class Collector : public benchmark::BenchmarkReporter {
     return *middle;
   }
 
-  std::vector<std::string> m_order;
+  std::map<std::string, std::int64_t> m_order;
   std::map<std::string, std::map<std::string, std::vector<double>>> m_times;
 };
 

@@ -96,8 +96,8 @@ std::size_t Distance(std::string_view left, std::string_view right) {
     now[0] = row;
     for (std::size_t column = 1; column <= right.size(); ++column) {
       const bool isSame = left[row - 1] == right[column - 1];
-      now[column] = std::min({last[column] + 1, now[column - 1] + 1,
-                              last[column - 1] + (isSame ? 0U : 1U)});
+      now[column] =
+          std::min({last[column] + 1, now[column - 1] + 1, last[column - 1] + (isSame ? 0U : 1U)});
       if (row > 1 && column > 1 && left[row - 1] == right[column - 2] &&
           left[row - 2] == right[column - 1]) {
         now[column] = std::min(now[column], beforeLast[column - 2] + 1);
@@ -141,7 +141,7 @@ std::optional<int> ParseInteger(std::string_view word) {
   int value = 0;
   const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
   return error == std::errc() && end == word.data() + word.size() ? std::optional(value)
-                                                                   : std::nullopt;
+                                                                  : std::nullopt;
 }
 
 int ParseChoice(const std::string& word, std::span<const Choice> choices, std::string_view what) {

@@ -23,6 +23,15 @@ std::string DescribeExtra(const CLI::App& app, const std::string& extra) {
   return "There is no option " + Printable(extra) + "." + AskWhether(FindNearest(extra, options));
 }
 
+int ReadInteger(const std::string& name, const std::string& word) {
+  const std::optional<int> value = ParseInteger(word);
+  if (!value) {
+    throw Problem(ExitCode::Usage,
+                  name + " takes a whole number of 32 bits, not " + Quoted(word) + ".");
+  }
+  return *value;
+}
+
 }  // namespace
 
 CommandLine::CommandLine(Session& session, const std::string& verb, const std::string& description,
@@ -32,7 +41,8 @@ CommandLine::CommandLine(Session& session, const std::string& verb, const std::s
       m_app(std::make_unique<CLI::App>(description, "mqpost " + verb)) {
   // A slash begins a path on every platform.
   m_app->allow_windows_style_options(false);
-  m_app->get_formatter()->column_width(26);
+  m_app->get_formatter()->column_width(28);
+  m_app->get_formatter()->label("REQUIRED", "");
   m_app->footer("Example:\n  " + example + "\n\nExit codes: mqpost --help");
 }
 
@@ -45,7 +55,7 @@ void CommandLine::Positional(const std::string& name, std::string& target,
 
 void CommandLine::OptionalPositional(const std::string& name, std::optional<std::string>& target,
                                      const std::string& help) {
-  Text(name, target, help);
+  Text(name, target, help, "");
 }
 
 void CommandLine::Positionals(const std::string& name, std::vector<std::string>& target,
@@ -54,50 +64,40 @@ void CommandLine::Positionals(const std::string& name, std::vector<std::string>&
 }
 
 void CommandLine::Text(const std::string& name, std::optional<std::string>& target,
-                       const std::string& help) {
-  m_app->add_option_function<std::string>(
-           name, [&target](const std::string& word) { target = word; }, help)
-      ->type_name("");
+                       const std::string& help, const std::string& placeholder) {
+  m_app
+      ->add_option_function<std::string>(
+          name, [&target](const std::string& word) { target = word; }, help)
+      ->type_name(placeholder);
 }
 
 void CommandLine::Integer(const std::string& name, std::optional<int>& target,
                           const std::string& help) {
-  m_app->add_option_function<std::string>(
-           name,
-           [&target, name](const std::string& word) {
-             target = ParseInteger(word);
-             if (!target) {
-               throw Problem(ExitCode::Usage, name + " takes a whole number of 32 bits, not " +
-                                                  Quoted(word) + ".");
-             }
-           },
-           help)
+  m_app
+      ->add_option_function<std::string>(
+          name, [&target, name](const std::string& word) { target = ReadInteger(name, word); },
+          help)
       ->type_name("N");
 }
 
 void CommandLine::Integer(const std::string& name, int& target, const std::string& help) {
-  m_app->add_option_function<std::string>(
-           name,
-           [&target, name](const std::string& word) {
-             target = ParseChoice(word, {}, name + " of");
-           },
-           help)
+  m_app
+      ->add_option_function<std::string>(
+          name, [&target, name](const std::string& word) { target = ReadInteger(name, word); },
+          help)
       ->type_name("N");
 }
 
 void CommandLine::OneOf(const std::string& name, int& target, std::vector<Choice> choices,
                         const std::string& help) {
-  std::vector<std::string> names;
-  for (const Choice& choice : choices) {
-    names.emplace_back(choice.name);
-  }
-  m_app->add_option_function<std::string>(
-           name,
-           [&target, choices = std::move(choices), name](const std::string& word) {
-             target = ParseChoice(word, choices, name);
-           },
-           help)
-      ->type_name(Join(names, "|"));
+  m_app
+      ->add_option_function<std::string>(
+          name,
+          [&target, choices = std::move(choices), name](const std::string& word) {
+            target = ParseChoice(word, choices, name);
+          },
+          help)
+      ->type_name("NAME");
 }
 
 void CommandLine::Flag(const std::string& name, bool& target, const std::string& help) {

@@ -31,7 +31,8 @@ class CommandLine {
                           const std::string& help);
   void Positionals(const std::string& name, std::vector<std::string>& target,
                    const std::string& help);
-  void Text(const std::string& name, std::optional<std::string>& target, const std::string& help);
+  void Text(const std::string& name, std::optional<std::string>& target, const std::string& help,
+            const std::string& placeholder);
   void Integer(const std::string& name, std::optional<int>& target, const std::string& help);
   void Integer(const std::string& name, int& target, const std::string& help);
   /// One of the names, or any integer.

@@ -65,10 +65,10 @@ Language::Language(Session& session, const std::optional<std::string>& wanted) {
   std::error_code ignored;
   const bool isFile = fs::is_regular_file(m_file, ignored);
   if (!isFile || !std::ifstream(m_file, std::ios::binary)) {
-    throw Problem(ExitCode::FileTrouble, Utf8(m_file) + ": " +
-                                             (isFile ? "The file cannot be opened."
-                                                     : "There is no such file.") +
-                                             " Name a compiled translation, a .mo file.");
+    throw Problem(ExitCode::FileTrouble,
+                  Utf8(m_file) + ": " +
+                      (isFile ? "The file cannot be opened." : "There is no such file.") +
+                      " Name a compiled translation, a .mo file.");
   }
   const host::TranslationReport report = host::LoadTranslations(m_file);
   if (!report.error.empty()) {

@@ -55,14 +55,12 @@ mqp::tool::Environment DescribeEnvironment() {
   if (environment.isTerminal && GetConsoleScreenBufferInfo(console, &screen) != 0) {
     environment.width = screen.srWindow.Right - screen.srWindow.Left + 1;
   }
-  const bool hasColor =
-      environment.isTerminal &&
-      SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+  const bool hasColor = environment.isTerminal &&
+                        SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
   const DWORD noColor = GetEnvironmentVariableW(L"NO_COLOR", nullptr, 0);
   std::array<wchar_t, 8> terminal{};
   GetEnvironmentVariableW(L"TERM", terminal.data(), terminal.size());
-  environment.isColorless =
-      !hasColor || noColor > 1 || std::wstring(terminal.data()) == L"dumb";
+  environment.isColorless = !hasColor || noColor > 1 || std::wstring(terminal.data()) == L"dumb";
   const fs::path folder = ProgramFolder();
   environment.localeFolders = {folder / "locale", folder / "../share/mqPostCommon/locale"};
   return environment;

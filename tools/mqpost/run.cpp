@@ -45,8 +45,8 @@ Examples:
 
 Exit codes:
   0  fine
-  1  it ran and came to a finding: no such name (find), texts without a
-     translation (strings --missing)
+  1  it ran and came to a finding: no such name (find), no such text (strings),
+     texts without a translation (strings --missing)
   2  the command line cannot be understood or carried out
   3  a file or record is damaged, or not what it should be
   4  a record holds more than this version knows
@@ -113,8 +113,8 @@ ExitCode CodeOf(host::DocumentProblem problem) {
   return ExitCode::FileTrouble;
 }
 
-ExitCode RunGuarded(const std::vector<std::string>& arguments, std::ostream& out,
-                    std::ostream& err, const Environment& environment) {
+ExitCode RunGuarded(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err,
+                    const Environment& environment) {
   const auto complain = [&err](const std::exception& error) {
     err << "mqpost: " << error.what() << '\n';
   };

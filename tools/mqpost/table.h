@@ -16,7 +16,7 @@ enum class Align { Left, Right };
 struct Column {
   std::string title;
   Align align = Align::Left;
-  int dropOrder = 0;  ///< 0: always shown; otherwise the highest goes first where room is short
+  int dropOrder = 0;   ///< 0: always shown; otherwise the highest goes first where room is short
   int leastWidth = 0;  ///< above 0: cells are wrapped down to this width before a column goes
 };
 

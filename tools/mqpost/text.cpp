@@ -197,7 +197,9 @@ std::string Join(const std::vector<std::string>& parts, std::string_view separat
 std::string ShowNumber(double value) {
   std::array<char, 32> digits{};
   const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
-  return {digits.data(), end};
+  const std::string text(digits.data(), end);
+  const bool isWhole = text.find_first_not_of("-0123456789") == std::string::npos;
+  return isWhole ? text + ".0" : text;
 }
 
 }  // namespace mqp::tool

@@ -14,7 +14,9 @@ namespace mqp::tool {
 
 /// A surrogate without its partner becomes U+FFFD.
 std::string Utf8(mqTextView text);
-inline std::string Utf8(const CString& text) { return Utf8(text.View()); }
+inline std::string Utf8(const CString& text) {
+  return Utf8(text.View());
+}
 std::string Utf8(const std::filesystem::path& path);
 CString Wide(const std::string& utf8);
 std::filesystem::path PathOf(const std::string& utf8);
@@ -36,7 +38,8 @@ std::vector<std::string> Wrap(std::string_view utf8, int columns);
 
 std::string Join(const std::vector<std::string>& parts, std::string_view separator);
 
-/// The shortest decimal text that reads back as the same value, in every locale alike.
+/// The shortest decimal text that reads back as the same value, in every locale alike;
+/// a whole number has ".0".
 std::string ShowNumber(double value);
 
 }  // namespace mqp::tool
