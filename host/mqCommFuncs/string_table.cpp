@@ -60,8 +60,8 @@ constinit std::atomic<int> missingIds = 0;
 
 void Use(std::unique_ptr<Overlay> overlay) noexcept {
   delete inUse.overlay;
-  inUse = {overlay->Places(), overlay->Units(), overlay.get()};
-  overlay.release();
+  Overlay* const kept = overlay.release();
+  inUse = {kept->Places(), kept->Units(), kept};
 }
 
 std::optional<mqTextView> FindText(UINT id) noexcept {

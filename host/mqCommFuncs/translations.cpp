@@ -41,7 +41,7 @@ Bytes ReadWholeFile(const std::filesystem::path& file) {
     return {"the file cannot be opened", {}};
   }
   std::string bytes;
-  std::array<char, 64 * 1024> part;
+  std::array<char, 65536> part;
   while (stream && bytes.size() <= kLargestFile) {
     stream.read(part.data(), part.size());
     bytes.append(part.data(), static_cast<std::size_t>(stream.gcount()));

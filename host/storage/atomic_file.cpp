@@ -51,7 +51,7 @@ std::error_code FlushToDisk(const fs::path& file) {
 /// such call, and some file systems refuse it: the file is complete either way.
 void FlushFolder([[maybe_unused]] const fs::path& folder) {
 #if !defined(_WIN32)
-  static_cast<void>(FlushToDisk(folder));
+  [[maybe_unused]] const std::error_code refused = FlushToDisk(folder);
 #endif
 }
 

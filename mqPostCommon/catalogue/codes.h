@@ -28,16 +28,16 @@ enum class AnalysisType : int {
 enum class ResultType : int {
   ResultType0       = 0,   ///< one name for every component
   Displacement      = 1,   ///< 0-2 translations, 3 resultant; 4-6 reaction forces, 7 resultant; 8-10 rotations; 11-13 reaction moments, 14 resultant
-  Stress            = 2,   ///< 0-5 components, 6-8 principal, 9 equivalent (the default), 10-11 scalars, 12 dimensionless, 13 directional, 14-15 scalars; 100 principal-based (`Dynamic`)
+  Stress            = 2,   ///< 0-5 components, 6-8 principal, 9 equivalent (the default), 10-11 scalars, 12 dimensionless in `Static`, 13 directional, 14-15 scalars; 100 principal-based (`Dynamic`)
   Strain            = 3,   ///< 0-5 components, 6 scalar (the default), 7 energy density, 8 energy, 9-11 principal
-  FactorOfSafety    = 4,
+  FactorOfSafety    = 4,   ///< stress; 0-4 have names
   Thermal           = 5,   ///< 0 temperature; 1-3 gradient, 4 magnitude; 5-7 heat flux, 8 magnitude; 9 heat power, 10 heat energy
   FlowVelocity      = 6,   ///< 0-2 and their resultant 3 (the default), 4-6 and their resultant 7
-  FlowPressure      = 7,
-  FlowFluidProperty = 8,
+  FlowPressure      = 7,   ///< 0-3 pressure, 4 without unit
+  FlowFluidProperty = 8,   ///< 0-1 specific energy, 3 viscosity, 4 conductivity, 5 length, 6 stress
   FlowTemperature   = 9,   ///< 0 temperature, 2-4 gradient, 5 its magnitude
   FlowWallLoad      = 10,  ///< 0-2 force, 3 resultant; 4-6 stress
-  FlowHeatTransfer  = 11,
+  FlowHeatTransfer  = 11,  ///< 1 density, 2 mass flow, 4 film coefficient, 5 heat flux
   FatigueResult     = 12,  ///< 4 is a life in time units
   GraphStress       = 13,  ///< accepted by the graph definition, which stores it as `Stress`
   ModeFrequency     = 15,
@@ -47,12 +47,12 @@ enum class ResultType : int {
   BucklingResult    = 21,
   StrainAlt         = 22,  ///< counts and is laid out as `Strain`
   FatigueGraph      = 52,  ///< report graphs of a `Fatigue` study
-  ResultType53      = 53,
+  ResultType53      = 53,  ///< 0-4 have names, 4 is a length
   ResultType54      = 54,  ///< 0-2 force, 3-5 moment
-  ResultType55      = 55,
+  ResultType55      = 55,  ///< 0-3 forces
   ResultType56      = 56,
   StressAlt         = 57,  ///< counts as `Stress` in a `Static` study
-  BeamStress        = 59,
+  BeamStress        = 59,  ///< stresses of beam elements
   ResultType62      = 62,
   ResultType63      = 63,  ///< report graphs
   ResultType65      = 65,

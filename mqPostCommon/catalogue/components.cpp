@@ -1,5 +1,6 @@
 #include <atomic>
 #include <cstdint>
+#include <initializer_list>
 
 #include <mqPostCommon/catalogue/components.h>
 #include <mqPostCommon/catalogue/table.h>
@@ -55,7 +56,7 @@ constexpr auto kCounts = std::to_array<ChoiceRow>({
     { Study::Dynamic,        Result::BeamStress,       When::Always,                5 },
     { Study::FlowImport,     Result::FlowVelocity,     When::Always,                8 },
     { Study::FlowImport,     Result::FlowPressure,     When::Always,                5 },
-    { Study::FlowImport,     Result::FlowFluidProperty,When::Always,                7 },
+    { Study::FlowImport,     Result::FlowFluidProperty, When::Always,               7 },
     { Study::FlowImport,     Result::FlowTemperature,  When::Always,                7 },
     { Study::FlowImport,     Result::FlowWallLoad,     When::Always,                7 },
     { Study::FlowImport,     Result::FlowHeatTransfer, When::Always,               12 },
@@ -184,24 +185,33 @@ constexpr auto kReferences = std::to_array<ComponentRow<std::uint8_t>>({
 // Studies that offer a result, in the order of the user's choices. They do not match the counts
 // everywhere: displacement is listed for Thermal, velocity and acceleration for Dynamic alone.
 
+struct StudyList {
+  constexpr StudyList(std::initializer_list<Study> list)
+      : count(static_cast<std::uint8_t>(list.size())) {
+    std::ranges::copy(list, studies.begin());
+  }
+
+  std::uint8_t count;
+  std::array<Study, 7> studies{};
+};
+
 struct StudiesRow {
   Result result;
-  std::uint8_t count;
-  std::array<Study, 7> studies;
+  StudyList list;
 };
 
 constexpr auto kStudies = std::to_array<StudiesRow>({
-    { Result::Displacement,   7, { Study::Static, Study::Frequency, Study::Buckling, Study::Thermal, Study::Stepped, Study::Dynamic, Study::SteppedReduced } },
-    { Result::Stress,         4, { Study::Static, Study::Stepped, Study::Dynamic, Study::SteppedReduced } },
-    { Result::Strain,         4, { Study::Static, Study::Stepped, Study::Dynamic, Study::SteppedReduced } },
-    { Result::Thermal,        1, { Study::Thermal } },
-    { Result::ModeFrequency,  1, { Study::Frequency } },
-    { Result::ResultType18,   1, { Study::Static } },
-    { Result::Velocity,       1, { Study::Dynamic } },
-    { Result::Acceleration,   1, { Study::Dynamic } },
-    { Result::BucklingResult, 1, { Study::Buckling } },
-    { Result::ResultType55,   1, { Study::Static } },
-    { Result::BeamStress,     2, { Study::Static, Study::Stepped } },
+    { Result::Displacement,   { Study::Static, Study::Frequency, Study::Buckling, Study::Thermal, Study::Stepped, Study::Dynamic, Study::SteppedReduced } },
+    { Result::Stress,         { Study::Static, Study::Stepped, Study::Dynamic, Study::SteppedReduced } },
+    { Result::Strain,         { Study::Static, Study::Stepped, Study::Dynamic, Study::SteppedReduced } },
+    { Result::Thermal,        { Study::Thermal } },
+    { Result::ModeFrequency,  { Study::Frequency } },
+    { Result::ResultType18,   { Study::Static } },
+    { Result::Velocity,       { Study::Dynamic } },
+    { Result::Acceleration,   { Study::Dynamic } },
+    { Result::BucklingResult, { Study::Buckling } },
+    { Result::ResultType55,   { Study::Static } },
+    { Result::BeamStress,     { Study::Static, Study::Stepped } },
 });
 
 // clang-format on
@@ -218,7 +228,7 @@ static_assert(FirstUnsorted(kBounds) == kNone);
 static_assert(FirstRepeated(kBounds) == kNone);
 static_assert(FirstUnsorted(kReferences) == kNone);
 static_assert(FirstRepeated(kReferences) == kNone);
-static_assert(std::ranges::is_sorted(kStudies, {}, &StudiesRow::result));
+static_assert(FirstUnsorted(kStudies, &StudiesRow::result) == kNone);
 
 constexpr auto kCountIndex = MakeChoices<kCounts>();
 constexpr auto kDefaultIndex = MakeChoices<kDefaults>();
@@ -306,16 +316,16 @@ int vekPostCommonGetAvailableAnalysisType(int resultType, int /*ignored*/, CArra
   list.RemoveAll();
   const std::size_t place = kStudiesIndex[ResultSlot(resultType)];
   if (place < kStudies.size()) {
-    const StudiesRow& row = kStudies[place];
-    for (std::size_t study = 0; study < row.count; ++study) {
-      list.Add(Code(row.studies[study]));
+    const StudyList& studies = kStudies[place].list;
+    for (std::size_t study = 0; study < studies.count; ++study) {
+      list.Add(Code(studies.studies[study]));
     }
   }
   return 1;
 }
 
-int vekPostCommonGetFirstAvailableAnalysisType(int resultType, int ignored) {
-  CArray<int, int> list;
-  vekPostCommonGetAvailableAnalysisType(resultType, ignored, list);
-  return list.IsEmpty() ? -1 : list[0];
+int vekPostCommonGetFirstAvailableAnalysisType(int resultType, int /*ignored*/) noexcept {
+  using namespace mqp;
+  const std::size_t place = kStudiesIndex[ResultSlot(resultType)];
+  return place < kStudies.size() ? Code(kStudies[place].list.studies.front()) : -1;
 }

@@ -2,7 +2,7 @@
 /// How many components a result has, which is the default, what each is, how many envelope
 /// bounds it keeps, whether it can be shown relative to a reference geometry, and in which kinds
 /// of study a result exists. Pure functions of their arguments, reentrant and without allocation
-/// (but for the two list functions); the actual-frequency display flag is the one state.
+/// (but for the list function); the actual-frequency display flag is the one state.
 ///
 /// Arguments throughout: `analysisType` an `AnalysisType`, `resultType` a `ResultType`,
 /// `component` a 0-based index, `meshKind` a `MeshKind`. Any integer may be passed.
@@ -23,13 +23,14 @@ MQPOSTCOMMON_API void vekPostCommonSetActualFreqDispFlag(int flag) noexcept;
 
 /// The number of components.
 /// \param extraStress   non-zero: a `Static` study has its extra stress components (14)
-/// \param meshKind      shell and beam meshes, and mixed ones with a flag below, have rotations
+/// \param meshKind      shell and beam meshes, and mixed ones with a flag below, have rotations; in
+///                      a `Dynamic` study every kind but 0 has. A beam mesh has its own stresses
 /// \param ignored       has no effect
 /// \param moreStress    non-zero together with `extraStress`: two stress components more (16)
 /// \param meshFlags     a set of `MeshFlags`; of effect on a `MixedMesh` in `Static`, `Buckling`
 ///                      and `Stepped` displacement only
-/// \param dynamicOption together with
-/// \param dynamicChoice 1 and 7 select the set of 13 stress components of a `Dynamic` study
+/// \param dynamicOption 1 with `dynamicChoice` 7: the 13 stress components of a `Dynamic` study
+/// \param dynamicChoice see `dynamicOption`
 /// \return 0 to 16; 0 for an unknown combination
 MQPOSTCOMMON_API int vekPostCommonGetComponentTotal(int analysisType, int resultType,
                                                     int extraStress, int meshKind, int ignored,
@@ -38,8 +39,9 @@ MQPOSTCOMMON_API int vekPostCommonGetComponentTotal(int analysisType, int result
 
 /// What a component is.
 /// \param vectorMembers    three integers owned by the caller, or null. For a resultant and for a
-///                         principal-based component they receive the indices of its members;
-///                         for anything else they are left alone
+///                         principal-based component they receive the indices of its members
+///                         (for component 0 of `ResultType55` 1, 1 and 3); for anything else, the
+///                         resultants of velocities and accelerations included, they are left alone
 /// \param forceDirectional non-zero: every index of a displacement in `Static`, `Frequency` and
 ///                         `Buckling`, and of `ResultType55` and `ResultType18` in `Static`, is
 ///                         directional, negative ones and those beyond the count included
@@ -50,7 +52,8 @@ MQPOSTCOMMON_API int vekPostCommonGetComponentDataType(int analysisType, int res
 
 /// The component on which a new plot or graph starts.
 /// \param ignored       has no effect
-/// \param dynamicOption 1 selects component 100 of a `Dynamic` stress, which lies beyond its count
+/// \param dynamicOption 1 selects component 100 of a `Dynamic` stress, which lies beyond its count;
+///                      not on a beam mesh
 /// \return the index; 0 for an unknown combination
 MQPOSTCOMMON_API int vekPostCommonGetComponentDefault(int analysisType, int resultType, int ignored,
                                                       int meshKind, int dynamicOption) noexcept;
@@ -63,6 +66,7 @@ MQPOSTCOMMON_API int vekPostCommonGetEnvelopBoundTotal(int analysisType, int res
                                                        int stressComponent12) noexcept;
 
 /// Whether a component can be shown relative to a reference geometry.
+/// \param meshKind a stepped stress has no reference on a beam mesh
 /// \return 1 or 0
 MQPOSTCOMMON_API int vekPostCommonIsReferenceAvailable(int analysisType, int resultType,
                                                        int component, int meshKind) noexcept;
@@ -76,4 +80,5 @@ MQPOSTCOMMON_API int vekPostCommonGetAvailableAnalysisType(int resultType, int i
 
 /// The first entry of that list, or -1 when it is empty.
 /// \param ignored has no effect
-MQPOSTCOMMON_API int vekPostCommonGetFirstAvailableAnalysisType(int resultType, int ignored);
+MQPOSTCOMMON_API int vekPostCommonGetFirstAvailableAnalysisType(int resultType,
+                                                                int ignored) noexcept;

@@ -74,7 +74,7 @@ constexpr auto kDirections = std::to_array<ComponentRow<Direction>>({
     { kTimeStudies,                    kMotions,                 When::Always,    {1, 5},                                      Y },
     { kTimeStudies,                    kMotions,                 When::Always,    {2, 6},                                      Z },
     { kTimeStudies,                    kMotions,                 When::Always,    {3},                                         All },
-    { kTimeStudies,                    kMotions,                 When::Always,    ComponentSet{0, 4, 7} | kOthers,             X },  // without an upper bound
+    { kTimeStudies,                    kMotions,                 When::Always,    kOthers,                                     X },  // without an upper bound
     { Study::Dynamic,                  Result::Displacement,     When::Always,    {0, 4, 8, 11, 15},                           X },
     { Study::Dynamic,                  Result::Displacement,     When::Always,    {1, 5, 9, 12},                               Y },
     { Study::Dynamic,                  Result::Displacement,     When::Always,    {2, 6, 10, 13},                              Z },
@@ -96,7 +96,7 @@ constexpr auto kDirections = std::to_array<ComponentRow<Direction>>({
     { Study::FlowImport,               Result::FlowVelocity,     When::Always,    {2, 6},                                      Z },
     { Study::FlowImport,               Result::FlowVelocity,     When::Always,    {3, 7},                                      All },
     { Study::FlowImport,               Result::FlowPressure,     When::Always,    To(0, 4),                                    X },  // scalars, drawn along X all the same
-    { Study::FlowImport,               Result::FlowFluidProperty,When::Always,    To(0, 6),                                    X },
+    { Study::FlowImport,               Result::FlowFluidProperty, When::Always,    To(0, 6),                                   X },
     { Study::FlowImport,               Result::FlowTemperature,  When::Always,    {0, 1, 2, 6},                                X },
     { Study::FlowImport,               Result::FlowTemperature,  When::Always,    {3},                                         Y },
     { Study::FlowImport,               Result::FlowTemperature,  When::Always,    {4},                                         Z },

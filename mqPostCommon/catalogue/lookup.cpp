@@ -46,8 +46,11 @@ constexpr Candidates Either(const Names& names, const Names& others, int first) 
 
 // clang-format off
 
+constexpr Names kFatigueNames          = Ids16(54745, 54746, 54747, 54749);
 constexpr Candidates kModeTranslations = Either(kTranslationNames, kModeTranslationNames, 0);
 constexpr Candidates kModeRotations    = Either(kRotationNames, kModeRotationNames, 4);
+
+constexpr StudySet kBeamStressStudies = kStressStudies | Study::FlowImport;
 
 constexpr auto kCandidates = std::to_array<CandidateRow>({
 //    studies                          result                  when             names in the order in which they are tried
@@ -55,15 +58,15 @@ constexpr auto kCandidates = std::to_array<CandidateRow>({
     { Study::Static,                   Result::Stress,         When::Always,    Numbered(First(14, kStressNames)) },
     { Study::Static,                   Result::Stress,         When::Alternate, Numbered(kStressNames) },
     { kStressStudies,                  kStrains,               When::Always,    Numbered(kStrainNames) },
-    { kStressStudies | Study::FlowImport, Result::BeamStress,  When::Always,    Numbered(kBeamStressNames) },
+    { kBeamStressStudies,              Result::BeamStress,     When::Always,    Numbered(kBeamStressNames) },
     { Study::Frequency,                Result::Displacement,   When::Always,    kModeTranslations },
     { Study::Buckling,                 Result::Displacement,   When::Always,    kModeTranslations + kModeRotations },
     { Study::Thermal,                  Result::Thermal,        When::Always,    Numbered(kThermalNames) },
-    { kStepStudies,                    Result::Displacement,   When::Always,    Numbered(First(8, kDisplacementNames)) },
+    { kStepStudies,                    Result::Displacement,   When::Always,    Numbered(First(8, kDisplacementNames)) },  // the others have names, but are not looked up
     { kStepStudies,                    Result::Stress,         When::Always,    Numbered(First(14, kStressNames)) },
-    { kTimeStudies,                    Result::Velocity,       When::Always,    Numbered(Run(54405, 54407)) + Numbered(Run(54408, 54410), 4) + One(54411, 3) + One(kRotationalResultantName, 7) },       // the resultant behind the angular ones
-    { kStepStudies,                    Result::Acceleration,   When::Always,    Numbered(Run(54412, 54414)) + Numbered(Run(54415, 54417), 0) + One(54418, 3) + One(kRotationalResultantName, 7) },       // the angular ones stand for 0 to 2 here
-    { Study::Fatigue,                  kAnyResult,             When::Always,    Numbered(Ids16(54745, 54746, 54747, 54749)) },                                                                            // 54747, not 54020
+    { kTimeStudies,                    Result::Velocity,       When::Always,    Numbered(Run(54405, 54407)) + Numbered(Run(54408, 54410), 4) + One(54411, 3) + One(kRotationalResultantName, 7) },  // the resultant behind the angular ones
+    { kStepStudies,                    Result::Acceleration,   When::Always,    Numbered(Run(54412, 54414)) + Numbered(Run(54415, 54417), 0) + One(54418, 3) + One(kRotationalResultantName, 7) },  // the angular ones stand for 0 to 2 here
+    { Study::Fatigue,                  kAnyResult,             When::Always,    Numbered(kFatigueNames) },  // 54747, not 54020
     { Study::Dynamic,                  Result::Stress,         When::Always,    Numbered(First(12, kStressNames)) + One(kDynamicStressName, kDynamicStressComponent) },
     { Study::Dynamic,                  Result::Acceleration,   When::Always,    Numbered(Run(54412, 54414)) + Numbered(Run(54415, 54417), 4) + One(54418, 3) + One(kRotationalResultantName, 7) },
 });
@@ -83,7 +86,7 @@ constexpr auto kResultCandidates = std::to_array<ResultRow>({
     { Result::Stress,         First(14, kStressNames) },
     { Result::Strain,         kStrainNames },
     { Result::Thermal,        First(9, kThermalNames) },
-    { Result::FatigueResult,  Ids16(54745, 54746, 54747, 54749) },
+    { Result::FatigueResult,  kFatigueNames },
     { Result::Velocity,       Run(54763, 54766) + Run(54405, 54411) },
     { Result::Acceleration,   Run(54412, 54418) },
 });
@@ -92,7 +95,7 @@ constexpr auto kResultCandidates = std::to_array<ResultRow>({
 
 static_assert(FirstUnsorted(kCandidates) == kNone);
 static_assert(FirstRepeated(kCandidates) == kNone);
-static_assert(std::ranges::is_sorted(kResultCandidates, {}, &ResultRow::result));
+static_assert(FirstUnsorted(kResultCandidates, &ResultRow::result) == kNone);
 
 constexpr auto kCandidateIndex = MakeIndex<Candidate{kNoName, 0}, kCandidates>();
 

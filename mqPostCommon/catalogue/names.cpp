@@ -91,6 +91,8 @@ constexpr auto kFullByStudy = std::to_array<NameRow>({
 // ---------------------------------------------------------------------------------------------
 // Colour-bar names. The full name takes the place of a missing one, except for results 53 and 54.
 
+constexpr Names kSafetyBarNames = Ids16(53471, 53472);
+constexpr Names kBarVelocityNames = Run(54022, 54028);
 constexpr Names kBarDisplacementNames = Run(53981, 53984) + Run(53473, 53483);
 constexpr Names kBarStressNames =
     Run(53987, 53993) + Ids16(53947, 53994, 53034, 53996, 55084, 52190, 53997, 54498, 54499);
@@ -108,7 +110,7 @@ constexpr auto kBarByStudy = std::to_array<NameRow>({
     { kStressStudies,        Result::Displacement,   When::Always,         kBarDisplacementNames },
     { Study::Static,         kStresses,              When::Always,         kBarStressNames },
     { kStressStudies,        kStrains,               When::Always,         Ids16(53998, 53999) + Run(53971, 53980) },
-    { Study::Static,         Result::FactorOfSafety, When::Always,         Ids16(53471, 53472) },
+    { Study::Static,         Result::FactorOfSafety, When::Always,         kSafetyBarNames },
     { Study::Static,         Result::BeamStress,     When::Always,         kBeamStressNames },
     { Study::Frequency,      Result::Displacement,   When::Always,         Run(54873, 54876) },
     { Study::Frequency,      Result::Displacement,   When::RealModes,      Run(53981, 53984) },
@@ -117,8 +119,8 @@ constexpr auto kBarByStudy = std::to_array<NameRow>({
     { Study::Thermal,        Result::Thermal,        When::Always,         Ids16(53985, 53986) + Run(54000, 54008) },
     { kStepStudies,          Result::Stress,         When::Always,         First(14, kBarStressNames) },
     { kStepStudies,          Result::Stress,         When::BeamMesh,       kBeamStressNames },
-    { Study::Stepped,        Result::FactorOfSafety, When::Always,         Ids16(53471, 53472) },
-    { kTimeStudies,          Result::Velocity,       When::Always,         Run(54022, 54028) },
+    { Study::Stepped,        Result::FactorOfSafety, When::Always,         kSafetyBarNames },
+    { kTimeStudies,          Result::Velocity,       When::Always,         kBarVelocityNames },
     { kTimeStudies,          Result::Acceleration,   When::Always,         kBarAccelerationNames },  // eight, one more than of velocities
     { Study::Fatigue,        kAnyResult,             When::Always,         Ids16(54015, 54019, 54020, 54021, 54015) },
     { Study::Fatigue,        kAnyResult,             When::FatigueVariant, Ids16(54015, 55362, 54020, 54021, 54015) },
@@ -140,16 +142,17 @@ constexpr auto kBriefByStudy = std::to_array<NameRow>({
     { kStressStudies,        Result::Displacement,   When::Always,         Run(54782, 54796) },
     { Study::Static,         kStresses,              When::Always,         kBriefStressNames },
     { kStressStudies,        kStrains,               When::Always,         kBriefStrainNames },
-    { Study::Static,         Result::FactorOfSafety, When::Always,         Ids16(53471, 53472) },
+    { Study::Static,         Result::FactorOfSafety, When::Always,         kSafetyBarNames },
     { Study::Frequency,      kResultsBelow2,         When::Always,         kBriefModeNames },  // tested by "not above 1" alone
     { Study::Frequency,      kResultsBelow2,         When::RealModes,      kBriefRealModeNames },
     { Study::Buckling,       Result::Displacement,   When::Always,         kBriefModeNames },
     { Study::Buckling,       Result::Displacement,   When::RealModes,      kBriefRealModeNames },
     { Study::Thermal,        Result::Thermal,        When::Always,         Ids16(50797) + Run(54804, 54811) + Ids16(54557, 54558) },
     { kStepStudies,          Result::Stress,         When::Always,         First(14, kBriefStressNames) },
-    { Study::Stepped,        Result::FactorOfSafety, When::Always,         Ids16(53471, 53472) },
-    { kTimeStudies,          Result::Velocity,       When::Always,         Run(54022, 54028) + Ids16(53946) },  // shared with accelerations
+    { Study::Stepped,        Result::FactorOfSafety, When::Always,         kSafetyBarNames },
+    { kTimeStudies,          Result::Velocity,       When::Always,         kBarVelocityNames + Ids16(53946) },  // shared with accelerations
     { kTimeStudies,          Result::Acceleration,   When::Always,         kBarAccelerationNames },
+    { Study::Fatigue,        kAnyResult,             When::Always,         Ids16(54223, 54224, 54020, 54812, 54223) },  // component 4 repeats 0
     { Study::Dynamic,        Result::Stress,         When::Always,         First(12, kBriefStressNames) },
     { Study::Dynamic,        Result::Stress,         When::Always,         From(kDynamicStressComponent, Ids16(kBriefDynamicStressName)) },
 });
@@ -157,11 +160,6 @@ constexpr auto kBriefByStudy = std::to_array<NameRow>({
 constexpr auto kBriefOfFatigueGraphs = std::to_array<NameRow>({
 //    studies                result                  when                  names of components 0, 1, 2, ...
     { Study::Fatigue,        Result::FatigueGraph,   When::Always,         Ids16(54824, 54825) },
-});
-
-constexpr auto kBriefOfFatigue = std::to_array<NameRow>({
-//    studies                result                  when                  names of components 0, 1, 2, ...
-    { Study::Fatigue,        kAnyResult,             When::Always,         Ids16(54223, 54224, 54020, 54812, 54223) },  // component 4 repeats 0
 });
 
 // ---------------------------------------------------------------------------------------------
@@ -188,21 +186,25 @@ constexpr auto kTitlesByStudy = std::to_array<NameRow>({
 
 // clang-format on
 
-static_assert(std::ranges::is_sorted(kResultNames, {}, &ResultNameRow::result));
+static_assert(FirstUnsorted(kResultNames, &ResultNameRow::result) == kNone);
 static_assert(FirstUnsorted(kFullByResult) == kNone);
 static_assert(FirstRepeated(kFullByResult) == kNone);
 static_assert(FirstUnsorted(kFullByStudy) == kNone);
 static_assert(FirstRepeated(kFullByStudy) == kNone);
+static_assert(FirstRepeated(kBarByResult) == kNone);
 static_assert(FirstUnsorted(kBarByStudy) == kNone);
 static_assert(FirstRepeated(kBarByStudy) == kNone);
 static_assert(FirstUnsorted(kBriefByStudy) == kNone);
 static_assert(FirstRepeated(kBriefByStudy) == kNone);
+static_assert(FirstRepeated(kBriefOfFatigueGraphs) == kNone);
+static_assert(FirstRepeated(kTitlesOfFatigueGraphs) == kNone);
+static_assert(FirstUnsorted(kTitlesByStudy) == kNone);
 static_assert(FirstRepeated(kTitlesByStudy) == kNone);
 
 constexpr auto kFullIndex = MakeIndex<kNoName, kFullByResult, kFullByStudy>();
 constexpr auto kBarIndex = MakeIndex<kNoName, kBarByResult, kBarByStudy>();
 constexpr auto kBriefIndex =
-    MakeIndex<kNoName, kBarByResult, kBriefOfFatigueGraphs, kBriefOfFatigue, kBriefByStudy>();
+    MakeIndex<kNoName, kBarByResult, kBriefOfFatigueGraphs, kBriefByStudy>();
 constexpr auto kTitleIndex =
     MakeIndex<kNoName, kTitlesOfFatigueGraphs, kTitlesByResult, kTitlesByStudy>();
 

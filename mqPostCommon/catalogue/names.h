@@ -14,8 +14,10 @@
 /// The name of a result type; a catch-all name for every type without one of its own.
 MQPOSTCOMMON_API CString vekPostCommonGetResultName(int resultType);
 
-/// The full name of a component, a symbol, a colon and a description.
+/// The full name of a component: in the string table, by custom, a symbol, a colon and a
+/// description.
 /// \param ignored        has no effect
+/// \param meshKind       a beam mesh has names of its own for the stress of time studies
 /// \param alternateNames non-zero: the second list of displacement names of `Static`, `Stepped`,
 ///                       `SteppedReduced` and `Dynamic` studies
 MQPOSTCOMMON_API CString vekPostCommonGetComponentName(int analysisType, int resultType,
@@ -25,6 +27,8 @@ MQPOSTCOMMON_API CString vekPostCommonGetComponentName(int analysisType, int res
 /// The name of a component on a colour bar. A component without one takes its full name up to
 /// the first colon; a full name without a colon, or with one in front, is taken whole.
 /// \param passOn         handed to `vekPostCommonGetComponentName`, which ignores it
+/// \param meshKind       a beam mesh has names of its own for the stress of `Stepped` and
+///                       `SteppedReduced` studies
 /// \param fatigueVariant 1: the other name of component 1 in a `Fatigue` study
 MQPOSTCOMMON_API CString vekPostCommonGetComponentNameBar(int analysisType, int resultType,
                                                           int passOn, int component, int meshKind,

@@ -67,9 +67,9 @@ class CodeSet {
   std::array<std::uint64_t, 2> m_words{};
 };
 
-/// A code of a study or a result as a place in a dense grid. Codes that no table names share the
-/// places behind the last known one; negative result types have a place of their own, because one
-/// rule covers every result type below 2.
+/// A code of a study or a result as a place in a dense grid. Codes behind the last known one share
+/// one place, negative studies with them; negative result types have a place of their own, because
+/// one rule covers every result type below 2.
 inline constexpr int kStudySlots = 12;
 inline constexpr int kUnknownStudySlot = kStudySlots - 1;
 inline constexpr int kResultSlots = 74;
@@ -272,6 +272,28 @@ constexpr int FirstUnsorted(const Rows& rows) {
   return kNone;
 }
 
+/// Rows with a key of their own stand in order of it, none twice.
+template <class Rows, class Key>
+constexpr int FirstUnsorted(const Rows& rows, Key key) {
+  for (std::size_t place = 1; place < rows.size(); ++place) {
+    if (rows[place].*key <= rows[place - 1].*key) {
+      return static_cast<int>(place);
+    }
+  }
+  return kNone;
+}
+
+/// Each row stands at the place of its code.
+template <class Rows, class Key>
+constexpr int FirstOutOfPlace(const Rows& rows, Key key) {
+  for (std::size_t place = 0; place < rows.size(); ++place) {
+    if (Code(rows[place].*key) != static_cast<int>(place)) {
+      return static_cast<int>(place);
+    }
+  }
+  return kNone;
+}
+
 template <class Row>
 constexpr bool Collide(const Row& left, const Row& right) {
   if (left.when != right.when || !left.studies.Intersects(right.studies) ||
@@ -406,7 +428,7 @@ constexpr void ForEachCell(const Row& row, Visit visit) {
   for (int study = row.studies.Lowest(); study < row.studies.End(); ++study) {
     for (int result = row.results.Lowest(); result < row.results.End(); ++result) {
       if (row.studies.Has(study) && row.results.Has(result)) {
-        visit(static_cast<std::size_t>(study * kResultSlots + result));
+        visit(static_cast<std::size_t>(study) * kResultSlots + static_cast<std::size_t>(result));
       }
     }
   }
@@ -454,6 +476,9 @@ constexpr BuiltIndex<typename Row::Value> BuildIndex(typename Row::Value nothing
     }
     When condition = When::Always;
     for (const Row* row : covering[cell]) {
+      if (row->when != When::Always && condition != When::Always && row->when != condition) {
+        throw "a cell has two conditions";  // stops the compilation
+      }
       condition = condition | row->when;
     }
     const ValueList plain = pool.Keep(MergeRows(covering[cell], When::Always, nothing));

@@ -2,7 +2,7 @@
 #include <array>
 #include <cstddef>
 
-#include <mqPostCommon/catalogue/codes.h>
+#include <mqPostCommon/catalogue/table.h>
 #include <mqPostCommon/catalogue/unit_lists.h>
 
 namespace mqp {
@@ -33,7 +33,7 @@ constexpr auto kRows = std::to_array<UnitListRow>({
     { UnitListId::HeatEnergy,                         MQ_TEXT("HeatEnergy"),                         MQ_TEXT("Joule|BTU|Cal|KCal") },
     { UnitListId::HeatFlux,                           MQ_TEXT("HeatFlux"),                           MQ_TEXT("W/m^2|(BTU/s)/in^2|(Cal/s)/cm^2") },
     { UnitListId::Power,                              MQ_TEXT("Power"),                              MQ_TEXT("W|BTU/s|Cal/s") },
-    { UnitListId::RadiationCoefficient,               MQ_TEXT("RadiationCoefficient"),               MQ_TEXT("W/(m^2.K^4)|BTU/(in^2.\u00B0F^4)|Cal/(cm^2.\u00B0C^4)") },
+    { UnitListId::RadiationCoefficient,               MQ_TEXT("RadiationCoefficient"),               MQ_TEXT("W/(m^2.K^4)|BTU/(in^2.°F^4)|Cal/(cm^2.°C^4)") },
     { UnitListId::AngularAcceleration,                MQ_TEXT("AngularAcceleration"),                MQ_TEXT("rad/s^2|Hz/sec") },
     { UnitListId::AngularAccelerationSpectralDensity, MQ_TEXT("AngularAccelerationSpectralDensity"), MQ_TEXT("(rad/s^2)^2/Hz|Hz/sec^2") },
     { UnitListId::AngularVelocity,                    MQ_TEXT("AngularVelocity"),                    MQ_TEXT("rad/s|Hz|rpm") },
@@ -41,11 +41,11 @@ constexpr auto kRows = std::to_array<UnitListRow>({
     { UnitListId::Length,                             MQ_TEXT("Length"),                             MQ_TEXT("mm|cm|m|in|ft|ft-in|am|nm|micron|mil|microIn") },
     { UnitListId::LengthSmallestFirst,                MQ_TEXT("LengthSmallestFirst"),                MQ_TEXT("am|nm|micron|mm|cm|m|microIn|mil|in|ft|ft-in") },
     { UnitListId::DisplacementSpectralDensity,        MQ_TEXT("DisplacementSpectralDensity"),        MQ_TEXT("mm^2/Hz|cm^2/Hz|m^2/Hz|in^2/Hz|ft^2/Hz|(ft-in)^2/Hz|am^2/Hz|nm^2/Hz|micron^2/Hz|mil^2/Hz|microIn^2/Hz") },
-    { UnitListId::ThermalResistance,                  MQ_TEXT("ThermalResistance"),                  MQ_TEXT("K/W|\u00B0F/(BTU/s)|\u00B0C/(Cal/s)") },
-    { UnitListId::DistributedThermalResistance,       MQ_TEXT("DistributedThermalResistance"),       MQ_TEXT("(K.m^2)/W|\u00B0F.in^2/(BTU/s)|\u00B0C.cm^2/(Cal/s)") },
+    { UnitListId::ThermalResistance,                  MQ_TEXT("ThermalResistance"),                  MQ_TEXT("K/W|°F/(BTU/s)|°C/(Cal/s)") },
+    { UnitListId::DistributedThermalResistance,       MQ_TEXT("DistributedThermalResistance"),       MQ_TEXT("(K.m^2)/W|°F.in^2/(BTU/s)|°C.cm^2/(Cal/s)") },
     { UnitListId::Angle,                              MQ_TEXT("Angle"),                              MQ_TEXT("deg|deg_min|deg_min_sec|rad") },
-    { UnitListId::HeatTransferCoefficient,            MQ_TEXT("HeatTransferCoefficient"),            MQ_TEXT("W/(m^2.K)|BTU/(s.in^2.\u00B0F)|Cal/(s.cm^2.\u00B0C)|W/(cm^2.K)") },
-    { UnitListId::ThermalConductivity,                MQ_TEXT("ThermalConductivity"),                MQ_TEXT("W/(m.K)|BTU/(in.s.\u00B0F)|Cal/(cm.s.\u00B0C)|W/(cm.K)") },
+    { UnitListId::HeatTransferCoefficient,            MQ_TEXT("HeatTransferCoefficient"),            MQ_TEXT("W/(m^2.K)|BTU/(s.in^2.°F)|Cal/(s.cm^2.°C)|W/(cm^2.K)") },
+    { UnitListId::ThermalConductivity,                MQ_TEXT("ThermalConductivity"),                MQ_TEXT("W/(m.K)|BTU/(in.s.°F)|Cal/(cm.s.°C)|W/(cm.K)") },
     { UnitListId::SpecificEnergy,                     MQ_TEXT("SpecificEnergy"),                     MQ_TEXT("J/kg|BTU/lb|Cal/g|J/g") },
     { UnitListId::DynamicViscosity,                   MQ_TEXT("DynamicViscosity"),                   MQ_TEXT("kg/(m.s)|lb(in.s)|kg(cm.s)|g/(cm.s)") },
     { UnitListId::VolumeFlowRate,                     MQ_TEXT("VolumeFlowRate"),                     MQ_TEXT("mm^3/sec|cm^3/sec|m^3/sec|in^3/sec|ft^3/sec|litre/min|ft^3/min|US gal/hr|m^3/hr") },
@@ -62,7 +62,7 @@ constexpr auto kRows = std::to_array<UnitListRow>({
     { UnitListId::Area,                               MQ_TEXT("Area"),                               MQ_TEXT("mm^2|cm^2|m^2|in^2|ft^2|micron^2|mills^2") },
     { UnitListId::Volume,                             MQ_TEXT("Volume"),                             MQ_TEXT("mm^3|cm^3|m^3|in^3|ft^3|litre|yard^3") },
     { UnitListId::Time,                               MQ_TEXT("Time"),                               MQ_TEXT("sec|min|hr|day") },
-    { UnitListId::ThermalExpansion,                   MQ_TEXT("ThermalExpansion"),                   MQ_TEXT("/Kelvin (/K)|/Fahrenheit (/\u00B0F)|/Celsius (/\u00B0C)") },
+    { UnitListId::ThermalExpansion,                   MQ_TEXT("ThermalExpansion"),                   MQ_TEXT("/Kelvin (/K)|/Fahrenheit (/°F)|/Celsius (/°C)") },
     { UnitListId::Stiffness,                          MQ_TEXT("Stiffness"),                          MQ_TEXT("N/m|lbf/in|kgf/cm") },
     { UnitListId::StiffnessPerArea,                   MQ_TEXT("StiffnessPerArea"),                   MQ_TEXT("(N/m)/m^2|(lbf/in)/in^2|(kgf/cm)/cm^2") },
     { UnitListId::StiffnessPerLength,                 MQ_TEXT("StiffnessPerLength"),                 MQ_TEXT("(N/m)/m|(lbf/in)/in|(kgf/cm)/cm") },
@@ -75,18 +75,7 @@ constexpr auto kRows = std::to_array<UnitListRow>({
 
 static_assert(kRows.size() == kUnitListTotal);
 
-constexpr int kNone = -1;
-
-/// The rows stand at the places of their ids.
-constexpr int FirstRowOutOfPlace() {
-  for (std::size_t place = 0; place < kRows.size(); ++place) {
-    if (Code(kRows[place].id) != static_cast<int>(place)) {
-      return static_cast<int>(place);
-    }
-  }
-  return kNone;
-}
-static_assert(FirstRowOutOfPlace() == kNone);
+static_assert(FirstOutOfPlace(kRows, &UnitListRow::id) == kNone);
 
 /// A row as a record; the element behind each text stays zero and ends it.
 constexpr UnitList MakeList(const UnitListRow& row) {

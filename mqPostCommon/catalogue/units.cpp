@@ -25,6 +25,9 @@ constexpr Unit kMoment       = In(UnitType::Moment);
 constexpr Unit kStress       = In(UnitType::Stress);
 constexpr Unit kAngle        = In(UnitType::Angle);
 
+constexpr ResultSet kAllStresses    = kStresses | Result::BeamStress;
+constexpr ResultSet kSafetyAndBeams = Result::FactorOfSafety | Result::BeamStress;
+
 // ---------------------------------------------------------------------------------------------
 // The quantity of a component. What is the same in every study goes before the studies.
 
@@ -48,8 +51,8 @@ constexpr auto kUnitsByStudy = std::to_array<ComponentRow<Unit>>({
     { Study::Static,         Result::Displacement,       When::Always,    To(4, 7),                      kForce },
     { Study::Static,         Result::Displacement,       When::Always,    To(8, 10),                     kAngle },
     { Study::Static,         Result::Displacement,       When::Always,    To(11, 14),                    kMoment },
-    { Study::Static,         kStresses | Result::BeamStress, When::Always, {12},                         kNoUnit },  // the dimensionless stress
-    { Study::Static,         kStresses | Result::BeamStress, When::Always, kOthers,                      kStress },
+    { Study::Static,         kAllStresses,               When::Always,    {12},                          kNoUnit },  // dimensionless in Static alone
+    { Study::Static,         kAllStresses,               When::Always,    kOthers,                       kStress },
     { kStressStudies,        Result::Strain,             When::Always,    {7},                           In(UnitType::EnergyDensity) },
     { kStressStudies,        Result::Strain,             When::Always,    {8},                           In(UnitType::Energy) },
     { Study::Static,         Result::FactorOfSafety,     When::Always,    kOthers,                       kStress },
@@ -67,7 +70,7 @@ constexpr auto kUnitsByStudy = std::to_array<ComponentRow<Unit>>({
     { kTimeStudies,          Result::Displacement,       When::Always,    To(8, 10),                     kAngle },
     { kTimeStudies,          Result::Displacement,       When::Always,    To(11, 14),                    kMoment },
     { kTimeStudies,          Result::Stress,             When::Always,    kOthers,                       kStress },
-    { kStepStudies,          Result::FactorOfSafety | Result::BeamStress, When::Always, kOthers,         kStress },
+    { kStepStudies,          kSafetyAndBeams,            When::Always,    kOthers,                       kStress },
     { kTimeStudies,          Result::Velocity,           When::Always,    To(4, 6),                      In(UnitType::AngularVelocity) },
     { kTimeStudies,          Result::Velocity,           When::Always,    kOthers,                       In(UnitType::Velocity) },
     { kTimeStudies,          Result::Acceleration,       When::Always,    To(4, 6),                      In(UnitType::AngularAcceleration) },
@@ -150,8 +153,8 @@ constexpr auto kUnits = std::to_array<UnitRow>({
     { UnitType::MassFlowRate,                            6, {0, 1, 2}, { MQ_TEXT("kg/s"), MQ_TEXT("lb/s"), MQ_TEXT("g/s"), MQ_TEXT("g/s"), MQ_TEXT("kg/s"), MQ_TEXT("kg/s") } },
     { UnitType::Velocity,                                5, {0, 1, 2}, { MQ_TEXT("mm/sec"), MQ_TEXT("cm/sec"), MQ_TEXT("m/sec"), MQ_TEXT("in/sec"), MQ_TEXT("ft/sec"), MQ_TEXT("micron/sec"), MQ_TEXT("mills/sec"), MQ_TEXT("mm/s"), MQ_TEXT("cm/s"), MQ_TEXT("m/s"), MQ_TEXT("in/s"), MQ_TEXT("ft/s"), MQ_TEXT("micron/s"), MQ_TEXT("mills/s") } },
     { UnitType::VolumeFlowRate,                          9, {0, 1, 2}, { MQ_TEXT("mm^3/sec"), MQ_TEXT("cm^3/sec"), MQ_TEXT("m^3/sec"), MQ_TEXT("in^3/sec"), MQ_TEXT("ft^3/sec"), MQ_TEXT("litre/min"), MQ_TEXT("ft^3/min"), MQ_TEXT("US gal/hr"), MQ_TEXT("m^3/hr") } },
-    { UnitType::HeatTransferCoefficient,                 6, {0, 1, 2}, { MQ_TEXT("W/(m^2.K)"), MQ_TEXT("BTU/(s.in^2.\u00B0F)"), MQ_TEXT("Cal/(s.cm^2.\u00B0C)"), MQ_TEXT("W/(cm^2.K)"), MQ_TEXT("W/(m^2.K)"), MQ_TEXT("W/(m^2.K)") } },
-    { UnitType::ThermalConductivity,                     3, {0, 1, 2}, { MQ_TEXT("W/(m.K)"), MQ_TEXT("BTU/(in.s.\u00B0F)"), MQ_TEXT("Cal/(cm.s.\u00B0C)"), MQ_TEXT("W/(cm.K)"), MQ_TEXT("W/(m.K)"), MQ_TEXT("W/(m.K)") } },
+    { UnitType::HeatTransferCoefficient,                 6, {0, 1, 2}, { MQ_TEXT("W/(m^2.K)"), MQ_TEXT("BTU/(s.in^2.°F)"), MQ_TEXT("Cal/(s.cm^2.°C)"), MQ_TEXT("W/(cm^2.K)"), MQ_TEXT("W/(m^2.K)"), MQ_TEXT("W/(m^2.K)") } },
+    { UnitType::ThermalConductivity,                     3, {0, 1, 2}, { MQ_TEXT("W/(m.K)"), MQ_TEXT("BTU/(in.s.°F)"), MQ_TEXT("Cal/(cm.s.°C)"), MQ_TEXT("W/(cm.K)"), MQ_TEXT("W/(m.K)"), MQ_TEXT("W/(m.K)") } },
     { UnitType::Acceleration,                            6, {0, 1, 2}, { MQ_TEXT("mm/s^2"), MQ_TEXT("cm/s^2"), MQ_TEXT("m/s^2"), MQ_TEXT("in/s^2"), MQ_TEXT("ft/s^2"), MQ_TEXT("g"), MQ_TEXT("micron/s^2"), MQ_TEXT("mills/s^2") } },
     { UnitType::Energy,                                  3, {0, 1, 2}, { MQ_TEXT("N.m"), MQ_TEXT("ft.lbs"), MQ_TEXT("Cal"), MQ_TEXT("BTU"), MQ_TEXT("J"), MQ_TEXT("J"), MQ_TEXT("joule"), MQ_TEXT("ergs") } },
     { UnitType::EnergyDensity,                           3, {0, 1, 2}, { MQ_TEXT("N.m/m^3"), MQ_TEXT("ft.lbs/ft^3"), MQ_TEXT("Cal/m^3"), MQ_TEXT("BTU/in^3"), MQ_TEXT("Cal/m^3"), MQ_TEXT("Cal/m^3") } },
@@ -181,18 +184,25 @@ constexpr auto kUnits = std::to_array<UnitRow>({
 
 static_assert(FirstUnsorted(kUnitsByResult) == kNone);
 static_assert(FirstRepeated(kUnitsByResult) == kNone);
+static_assert(FirstUnsorted(kUnitsByStudy) == kNone);
+static_assert(FirstRepeated(kUnitsByStudy) == kNone);
+static_assert(FirstUnsorted(kUnitsOfMassProperties) == kNone);
 static_assert(FirstRepeated(kUnitsOfMassProperties) == kNone);
 
-/// The rows of quantities stand at the places of their codes.
-constexpr int FirstUnitOutOfPlace() {
+static_assert(FirstOutOfPlace(kUnits, &UnitRow::type) == kNone);
+
+/// What is offered is stored, and so are the defaults.
+constexpr int FirstUnitNotStored() {
   for (std::size_t place = 0; place < kUnits.size(); ++place) {
-    if (Code(kUnits[place].type) != static_cast<int>(place)) {
+    const UnitRow& row = kUnits[place];
+    const std::size_t last = *std::ranges::max_element(row.defaults);
+    if (row.offered > row.names.count || (last > 0 && last >= row.names.count)) {
       return static_cast<int>(place);
     }
   }
   return kNone;
 }
-static_assert(FirstUnitOutOfPlace() == kNone);
+static_assert(FirstUnitNotStored() == kNone);
 
 constexpr auto kQuantityIndex =
     MakeIndex<kNoUnit, kUnitsByResult, kUnitsByStudy, kUnitsOfMassProperties>();

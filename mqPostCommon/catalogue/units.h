@@ -13,8 +13,8 @@
 /// The physical quantity of a component. A negative component counts as one beyond every list.
 /// Mode-shape displacements have a quantity only while the actual-frequency display flag is
 /// exactly 1.
-/// \param option     with `optionFlag`: 2 and non-zero select the spectral densities of a
-///                   `Dynamic` study
+/// \param option     2 with a non-zero `optionFlag`: the spectral densities of a `Dynamic` study
+/// \param optionFlag see `option`
 /// \return a `UnitType`; 9999 for no unit and for unknown codes
 MQPOSTCOMMON_API int vekPostCommonGetUnitType(int analysisType, int resultType, int component,
                                               int option, int optionFlag) noexcept;
@@ -31,7 +31,8 @@ MQPOSTCOMMON_API CString vekPostCommonGetUnitName(int unitType, int index);
 /// The default unit of a component in a unit system; the arguments behind `unitSystem` are those
 /// of `vekPostCommonGetUnitType`.
 /// \param unitSystem a `UnitSystem`; every code but 0 and 1 counts as `UnitSystem::Metric`
-/// \return an index for `vekPostCommonGetUnitName`; 0 where no unit exists
+/// \return an index for `vekPostCommonGetUnitName`, for a frequency in `Metric` one behind the
+///         offered names; 0 where no unit exists
 MQPOSTCOMMON_API int vekPostCommonGetComponentUnitsBasedOnSystemUnit(int unitSystem,
                                                                      int analysisType,
                                                                      int resultType, int component,

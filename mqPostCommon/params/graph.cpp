@@ -3,6 +3,7 @@
 
 #include <mqPostCommon/catalogue/codes.h>
 #include <mqPostCommon/catalogue/components.h>
+#include <mqPostCommon/catalogue/name_ids.h>
 #include <mqPostCommon/catalogue/names.h>
 #include <mqPostCommon/catalogue/units.h>
 #include <mqPostCommon/params/graph.h>
@@ -28,8 +29,8 @@ constexpr int kFrequencyResponseGraph = 63;
 constexpr int kNoSensor = -1;
 
 // Dynamic options.
-constexpr int kSpectralOption = 1;
-constexpr int kFrequencyOption = 2;
+constexpr int kUnitFlagOption = 1;  // motions are named by the Y unit flag
+constexpr int kSpectralOption = 2;  // as for the units
 
 constexpr bool IsMotion(int quantityType) noexcept {
   return quantityType == Code(ResultType::Displacement) ||
@@ -136,7 +137,7 @@ CString NameAxis(const CmqPostGraphParam& graph, const CmqGraphAxis& axis, int n
   }
   CString name = vekPostCommonGetComponentNameBar(graph.m_nAnalysisType, quantityType, 1,
                                                   axis.m_nComponent, nameOption, 0);
-  if (IsMotion(quantityType) && dynamic && graph.m_nDynamicOption == kSpectralOption) {
+  if (IsMotion(quantityType) && dynamic && graph.m_nDynamicOption == kUnitFlagOption) {
     name += InBrackets(Load(graph.m_nYUnitFlag != 0 ? 53044 : 54441));
   }
   return name;
@@ -158,9 +159,9 @@ CString NameYUnit(const CmqPostGraphParam& graph) {
 }
 
 CString NameBeamStress(int component) {
-  constexpr UINT kBeamStresses[] = {52020, 54009, 54010, 54011, 54012, 54013, 54014};
-  const auto place = static_cast<unsigned>(component);
-  return place < std::size(kBeamStresses) ? Load(kBeamStresses[place]) : CString();
+  return component >= 0 && component < kBeamStressNames.count
+             ? Load(kBeamStressNames.values[static_cast<std::size_t>(component)])
+             : CString();
 }
 
 }  // namespace
@@ -184,8 +185,8 @@ CmqPostGraphParam::~CmqPostGraphParam() = default;
 void CmqPostGraphParam::ConstructInit(int analysisType, int resultType, int resultOption,
                                       int meshKind, int dynamicOption) {
   CmqPostGraphParam defaults(MemberDefaults{});
-  std::swap(defaults.m_strHost36, m_strHost36);
-  defaults.m_mapHost38.swap(m_mapHost38);
+  defaults.m_strHost36 = m_strHost36;
+  defaults.m_mapHost38 = m_mapHost38;
   *this = defaults;
 
   const int storedType =
@@ -211,7 +212,7 @@ CString CmqPostGraphParam::GetDefaultPlotName(int nameOption) const {
     name += MQ_TEXT("-");
   }
   name += yName;
-  if (m_nAnalysisType == Code(AnalysisType::Dynamic) && m_nDynamicOption == kFrequencyOption &&
+  if (m_nAnalysisType == Code(AnalysisType::Dynamic) && m_nDynamicOption == kSpectralOption &&
       m_XAxis.m_nQuantityType == kStepQuantity) {
     name += MQ_TEXT("-") + Load(54477);
   }
@@ -222,7 +223,7 @@ CString CmqPostGraphParam::GetYTitle(int nameOption, int flag) const {
   using namespace mqp;
   // The quantity of type 16 has no title of its own: it gets that of the stored result below.
   const bool dynamic = m_nAnalysisType == Code(AnalysisType::Dynamic);
-  if (dynamic && m_nDynamicOption == kSpectralOption && IsMotion(m_YAxis.m_nQuantityType)) {
+  if (dynamic && m_nDynamicOption == kUnitFlagOption && IsMotion(m_YAxis.m_nQuantityType)) {
     const CString title = vekPostCommonGetComponentNameShort(m_nAnalysisType, m_nResultType,
                                                              m_nResultOption, m_YAxis.m_nComponent);
     return m_nYUnitFlag != 0 ? title + MQ_TEXT("-") + Load(53044) + InBrackets(NameYUnit(*this))
@@ -235,7 +236,7 @@ CString CmqPostGraphParam::GetYTitle(int nameOption, int flag) const {
   }
   CString title = vekPostCommonGetComponentNameBar(m_nAnalysisType, m_nResultType, m_nResultOption,
                                                    m_YAxis.m_nComponent, nameOption, 0);
-  if (dynamic && m_nDynamicOption == kFrequencyOption && m_XAxis.m_nQuantityType == kStepQuantity) {
+  if (dynamic && m_nDynamicOption == kSpectralOption && m_XAxis.m_nQuantityType == kStepQuantity) {
     title += MQ_TEXT(" ") + Load(54477);
   }
   return title + InBrackets(NameYUnit(*this));
@@ -278,7 +279,7 @@ void CmqPostGraphParam::SetDefaultOptionByPreferences(const preference* preferen
     return;
   }
   switch (static_cast<UnitType>(mqp::YUnitType(*this))) {
-    case UnitType::UnitSystemName:
+    case UnitType::UnitSystemName:  // takes the stress unit too
     case UnitType::Stress:
     case UnitType::StressSpectralDensity: m_YAxis.m_nUnit = preferences->m_nStressUnit; break;
     case UnitType::Length:

@@ -41,8 +41,8 @@ class MQPOSTCOMMON_API CmqPostGraphParam {
   /// \param analysisType  an `AnalysisType`
   /// \param resultType    a `ResultType`; `GraphStress` is stored as `Stress`
   /// \param resultOption  passed on as the option of the component naming functions
-  /// \param meshKind      a `MeshKind`; together with
-  /// \param dynamicOption it chooses the default component of the Y axis; neither is kept
+  /// \param meshKind      a `MeshKind`; chooses the default component of the Y axis, is not kept
+  /// \param dynamicOption the same
   void ConstructInit(int analysisType, int resultType, int resultOption, int meshKind,
                      int dynamicOption);
 
@@ -53,11 +53,14 @@ class MQPOSTCOMMON_API CmqPostGraphParam {
   [[nodiscard]] CString GetDefaultPlotName(int nameOption) const;
 
   /// The title of the Y axis with its unit in brackets.
-  /// \param nameOption passed on as the mesh kind of the colour-bar name; 4, or 3 with
-  /// \param flag       non-zero, takes the beam stress names for a stress in a `Dynamic` study
+  /// The brackets stay empty without a unit.
+  /// \param nameOption passed on as the mesh kind of the colour-bar name. 4 takes the beam stress
+  ///                   names for a stress in a `Dynamic` study, and so does 3 with `flag`
+  /// \param flag       non-zero or 0, see `nameOption`
   [[nodiscard]] CString GetYTitle(int nameOption, int flag) const;
 
-  /// The name of the folder that the graph belongs in, chosen by the stored result type.
+  /// The name of the folder that the graph belongs in, chosen by the stored result type; English,
+  /// never translated.
   [[nodiscard]] CString GetFolderName() const;
 
   /// The kind of graph: 52 fatigue damage matrix, 61 transient sensor graph, 63 frequency
@@ -68,8 +71,9 @@ class MQPOSTCOMMON_API CmqPostGraphParam {
   /// 1 when the Y axis has a transient sensor, else 0.
   [[nodiscard]] int IsTransientGraphMatrix() const noexcept;
 
-  /// Takes the Y unit from the user's preferences where the Y component is a stress, a length or
-  /// a temperature (or a spectral density of the first two); otherwise it stays.
+  /// Takes the Y unit from the user's preferences where the Y component is a stress, a length, a
+  /// spectral density of either, or a temperature; the result whose units are the unit systems
+  /// takes the stress unit too. Otherwise it stays.
   /// \param preferences read only; null changes nothing
   void SetDefaultOptionByPreferences(const preference* preferences) noexcept;
 
@@ -80,7 +84,7 @@ class MQPOSTCOMMON_API CmqPostGraphParam {
   /// Reads a record of a document and brings older ones up to date: a Y unit flag of 0 that the
   /// shown component rules out becomes 1, and stress components from 11 on move up by one in
   /// documents before 890002. Fields that the version lacks, and those that a stream which ends
-  /// early does not deliver, keep their values.
+  /// early does not deliver, keep their values; of a text that the end cuts the beginning is taken.
   /// \param stream  positioned at the record, owned by the caller
   /// \param version the version of the document, at least 800018
   /// \return 1; 0 for a null stream or an older version, with nothing read or changed
@@ -109,12 +113,12 @@ class MQPOSTCOMMON_API CmqPostGraphParam {
                                      {0.0, 0.0, 1.0, 0.0},
                                      {0.0, 0.0, 0.0, 1.0}};  ///< row by row
   int          m_nHost22[3] = {1, 0, 0};
-  int          m_nDynamicOption = 0;           ///< of a `Dynamic` study: 1 spectral, 2 ...; not persisted
+  int          m_nDynamicOption = 0;           ///< 1: the Y unit flag names motions, 2: spectral densities; not persisted
   int          m_nHost24 = 0;                  ///< not persisted
   int          m_nHost25 = 1;
   double       m_dHost26[2] = {0.0, 0.0};
   int          m_nHost27 = 1;
-  int          m_nYUnitFlag = 1;               ///< non-zero: the Y values have a unit
+  int          m_nYUnitFlag = 1;               ///< 0 under dynamic option 1: dimensionless motions
   int          m_nHost29[2] = {1, 1};          ///< not persisted
   int          m_nHost30 = 0;
   int          m_nHost31 = 0;                  ///< not persisted

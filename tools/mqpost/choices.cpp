@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <map>
 #include <numeric>
 #include <system_error>
 
@@ -163,25 +164,20 @@ int ParseChoice(const std::string& word, std::span<const Choice> choices, std::s
 }
 
 std::vector<std::string> FindNearest(std::string_view word, const std::vector<std::string>& words) {
-  struct Candidate {
-    std::size_t distance;
-    std::string word;
-  };
   const std::string typed = LowerCase(word);
-  std::vector<Candidate> candidates;
+  std::multimap<std::size_t, std::string> byDistance;
   for (const std::string& known : words) {
     const std::string lower = LowerCase(known);
     const bool isBeginning = typed.size() >= 2 && lower.starts_with(typed);
     const std::size_t distance = isBeginning ? 1 : Distance(typed, lower);
     if (distance <= std::max<std::size_t>(1, std::min(typed.size(), lower.size()) / 3)) {
-      candidates.push_back({distance, known});
+      byDistance.emplace(distance, known);
     }
   }
-  std::ranges::stable_sort(candidates, {}, &Candidate::distance);
   std::vector<std::string> nearest;
-  for (const Candidate& candidate : candidates) {
+  for (const auto& [distance, known] : byDistance) {
     if (nearest.size() < 3) {
-      nearest.push_back(candidate.word);
+      nearest.push_back(known);
     }
   }
   return nearest;

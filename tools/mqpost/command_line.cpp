@@ -89,12 +89,12 @@ void CommandLine::Integer(const std::string& name, int& target, const std::strin
 }
 
 void CommandLine::OneOf(const std::string& name, int& target, std::vector<Choice> choices,
-                        const std::string& help) {
+                        const std::string& what, const std::string& help) {
   m_app
       ->add_option_function<std::string>(
           name,
-          [&target, choices = std::move(choices), name](const std::string& word) {
-            target = ParseChoice(word, choices, name);
+          [&target, choices = std::move(choices), what](const std::string& word) {
+            target = ParseChoice(word, choices, what);
           },
           help)
       ->type_name("NAME");

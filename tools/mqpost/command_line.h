@@ -35,9 +35,9 @@ class CommandLine {
             const std::string& placeholder);
   void Integer(const std::string& name, std::optional<int>& target, const std::string& help);
   void Integer(const std::string& name, int& target, const std::string& help);
-  /// One of the names, or any integer.
+  /// One of the names, or any integer; an error calls it `what`.
   void OneOf(const std::string& name, int& target, std::vector<Choice> choices,
-             const std::string& help);
+             const std::string& what, const std::string& help);
   void Flag(const std::string& name, bool& target, const std::string& help);
   void Flag(const std::string& name, int& target, const std::string& help);  ///< 1 when given
 

@@ -81,7 +81,8 @@ std::vector<NamedRecord> ReadRecords(const Job& job, const host::CompoundDocumen
   return records;
 }
 
-/// Names every damaged record; all but the last here, as the last one ends the verb.
+/// Names every record that does not fit, and ends the verb when there is one. Damage outweighs
+/// being too new.
 void CheckRecords(Session& session, const std::vector<NamedRecord>& records) {
   std::optional<Problem> worst;
   for (const NamedRecord& named : records) {

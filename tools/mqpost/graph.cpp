@@ -281,7 +281,8 @@ ExitCode RunGraph(Session& session) {
   line.Positional("DOC::STREAM", word, "a document and a stream in it");
   line.Integer("--doc-version", version, kVersionHelp);
   line.Flag("--bytes", isBytes, "the stored bytes, field by field");
-  line.OneOf("--mesh", meshKind, Meshes(), "for the names: solid, shell, mixed or beam");
+  line.OneOf("--mesh", meshKind, Meshes(), "kind of mesh",
+             "for the names: solid, shell, mixed or beam");
   line.Text("--lang", wanted, kLanguageHelp, "LANG");
   line.Flag("--json", isJson, "for programs");
   if (!line.Parse()) {

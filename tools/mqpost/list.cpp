@@ -107,11 +107,19 @@ ExitCode RunList(Session& session) {
   }
   const Language language(session, wanted);
   if (!word) {
-    isJson ? Print(session, StudiesToJson(Studies())) : PrintStudies(session);
+    if (isJson) {
+      Print(session, StudiesToJson(Studies()));
+    } else {
+      PrintStudies(session);
+    }
     return ExitCode::Fine;
   }
   const int study = ParseChoice(*word, Studies(), "study");
-  isJson ? Print(session, StudiesToJson({{study, {}}})) : PrintStudy(session, study);
+  if (isJson) {
+    Print(session, StudiesToJson({{study, {}}}));
+  } else {
+    PrintStudy(session, study);
+  }
   return ExitCode::Fine;
 }
 

@@ -233,9 +233,9 @@ ExitCode RunShow(Session& session) {
                    "mqpost show dynamic stress --dynamic-option 2 --units ips");
   line.Positional("STUDY", study, "name or code");
   line.Positional("RESULT", result, "name or code");
-  line.OneOf("--units", subject.unitSystem, UnitSystems(),
+  line.OneOf("--units", subject.unitSystem, UnitSystems(), "unit system",
              "system of the default units: si, ips or metric");
-  line.OneOf("--mesh", options.meshKind, Meshes(), "solid, shell, mixed or beam");
+  line.OneOf("--mesh", options.meshKind, Meshes(), "kind of mesh", "solid, shell, mixed or beam");
   line.Integer("--mesh-flags", options.meshFlags, "2 or 4: a mixed mesh with rotations");
   line.Flag("--extra-stress", options.extraStress, "the extra components of a Static stress");
   line.Flag("--more-stress", options.moreStress, "two more, together with --extra-stress");

@@ -42,7 +42,7 @@ std::uint32_t TakeCodePoint(std::string_view& utf8) {
   const std::size_t length = SequenceLength(utf8.front());
   const auto lead = static_cast<unsigned char>(utf8.front());
   std::uint32_t point = length == 1 ? lead : lead & (0x7FU >> length);
-  bool isValid = utf8.size() >= length && (length > 1 || lead < 0x80);
+  bool isValid = utf8.size() >= length && lead < 0xF8 && (length > 1 || lead < 0x80);
   for (std::size_t index = 1; isValid && index < length; ++index) {
     const auto byte = static_cast<unsigned char>(utf8[index]);
     isValid = (byte & 0xC0U) == 0x80U;
@@ -179,7 +179,9 @@ std::vector<std::string> Wrap(std::string_view utf8, int columns) {
     utf8.remove_prefix(line.size());
     utf8.remove_prefix(std::min(utf8.find_first_not_of(' '), utf8.size()));
   }
-  lines.emplace_back(utf8);
+  if (!utf8.empty() || lines.empty()) {
+    lines.emplace_back(utf8);
+  }
   return lines;
 }
 

@@ -142,10 +142,12 @@ ExitCode RunUnits(Session& session) {
     name = NameOf(types, code);
     types = {{code, name.empty() ? "-" : name}};
   }
-  if (isLists) {
-    isJson ? Print(session, ListsToJson()) : PrintLists(session);
+  if (isJson) {
+    Print(session, isLists ? ListsToJson() : UnitsToJson(types));
+  } else if (isLists) {
+    PrintLists(session);
   } else {
-    isJson ? Print(session, UnitsToJson(types)) : PrintUnits(session, types);
+    PrintUnits(session, types);
   }
   return ExitCode::Fine;
 }

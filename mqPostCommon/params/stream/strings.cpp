@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -14,8 +15,9 @@ constexpr std::size_t kMaximumBytes = kUnitBytes * kMaximumStringRecordLength;
 }  // namespace
 
 void mqp::WriteStringRecord(IStream& stream, const CString& text) {
+  const int count = std::min(text.GetLength(), kMaximumStringRecordLength);
   std::array<unsigned short, kMaximumStringRecordLength> units;
-  const int count = STRING2LPUSHORT(text, units.data(), kMaximumStringRecordLength);
+  STRING2LPUSHORT(text, units.data(), count);
 
   std::array<std::byte, kCountBytes + kMaximumBytes> bytes;
   std::byte* end = bytes.data();

@@ -19,8 +19,8 @@ inline constexpr int kMaximumStringRecordLength = 1024;
 /// \return 1; 0 when either pointer is null, with nothing written
 MQPOSTCOMMON_API int CStringWriteToStream(IStream* stream, CString* text);
 
-/// Reads a string record. A zero unit ends the text early; all its units are consumed all the
-/// same. Of a record that claims more than 1024 units the first 1024 are read.
+/// Reads a string record. A zero unit ends the text early; all units are consumed all the same. Of
+/// a record that claims more than 1024 units the first 1024 are read; the rest stays in the stream.
 /// \param stream the stream, owned by the caller
 /// \param text   receives the text; keeps its value when the count is 0 or less, as it is when
 ///               nothing of it could be read. So an empty text does not come back
