@@ -1,6 +1,3 @@
-#if !defined(NOMINMAX)
-#define NOMINMAX
-#endif
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>
