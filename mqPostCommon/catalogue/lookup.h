@@ -13,13 +13,12 @@
 /// \param variant      non-zero: a `Static` stress knows its components 14 and 15 as well
 /// \param name         the text of a component, or a longer one that begins with it
 /// \param exactName    non-zero: the key is `name` without white space at its ends, and blanks
-/// alone
-///                     match the first name; 0: the key is
-///                     the first six code units, cut before a colon and then before a blank
-///                     where these stand behind the first position
-/// \return the 0-based index (0 to 2 for the angular accelerations of stepped studies), 100 for the
-/// component that a `Dynamic` stress keeps outside its
-///         count; -1 for an empty name, unknown codes and a key that no name begins with
+///                     alone match the first name; 0: the key is the first six code units, cut
+///                     before a colon and then before a blank where these stand behind the first
+///                     position
+/// \return the 0-based index (0 to 2 for the angular accelerations of stepped studies), 100 for
+///         the component that a `Dynamic` stress keeps outside its count; -1 for an empty name,
+///         unknown codes and a key that no name begins with
 MQPOSTCOMMON_API int vekPostCommonGetComponentIndexByName(int analysisType, int resultType,
                                                           int variant, CString name, int exactName);
 

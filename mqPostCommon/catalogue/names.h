@@ -1,7 +1,8 @@
 /// \file
 /// The display texts of results and components. No text lies in this library: each function
 /// picks a `StringId` and loads its text with `mqpLoadString`, so the answer is in the language
-/// of the string table. Where nothing is known the answer is the empty string.
+/// of the string table. Where nothing is known the answer is the empty string; a result type
+/// without a name of its own gets a catch-all one.
 ///
 /// Arguments throughout: `analysisType` an `AnalysisType`, `resultType` a `ResultType`,
 /// `component` a 0-based index (the fourth argument here), `meshKind` a `MeshKind`. Any integer

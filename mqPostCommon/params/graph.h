@@ -52,10 +52,9 @@ class MQPOSTCOMMON_API CmqPostGraphParam {
   ///         nothing that has a name
   [[nodiscard]] CString GetDefaultPlotName(int nameOption) const;
 
-  /// The title of the Y axis with its unit in brackets.
-  /// The brackets stay empty without a unit.
+  /// The title of the Y axis with its unit in brackets, which stay empty without a unit.
   /// \param nameOption passed on as the mesh kind of the colour-bar name. 4 takes the beam stress
-  ///                   names for a stress in a `Dynamic` study, and so does 3 with `flag`
+  ///                   names for a stress in a `Dynamic` study, and so does 3 while `flag` is set
   /// \param flag       non-zero or 0, see `nameOption`
   [[nodiscard]] CString GetYTitle(int nameOption, int flag) const;
 
@@ -82,7 +81,7 @@ class MQPOSTCOMMON_API CmqPostGraphParam {
   int WriteToStream(IStream* stream) const;
 
   /// Reads a record of a document and brings older ones up to date: a Y unit flag of 0 that the
-  /// shown component rules out becomes 1, and stress components from 11 on move up by one in
+  /// shown component does not allow becomes 1, and stress components from 11 on move up by one in
   /// documents before 890002. Fields that the version lacks, and those that a stream which ends
   /// early does not deliver, keep their values; of a text that the end cuts the beginning is taken.
   /// \param stream  positioned at the record, owned by the caller

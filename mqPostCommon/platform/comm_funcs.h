@@ -1,7 +1,7 @@
 /// \file
 /// What the common-functions library `mqCommFuncs` supplies. Declarations only: the library
-/// calls them through the dynamic symbols, so a production `mqCommFuncs`, or an executable that
-/// defines `mqpLoadString` itself, takes the stand-in's place without a rebuild.
+/// calls them through the dynamic symbols, so a production `mqCommFuncs`, and on Linux an
+/// executable that defines `mqpLoadString` itself, takes the stand-in's place without a rebuild.
 #pragma once
 
 #include <mqPostCommon/platform/integers.h>

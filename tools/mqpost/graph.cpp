@@ -71,6 +71,7 @@ struct AxisView {
   std::string quantity;
   std::string component;
   std::string unit;
+  bool hasUnits = false;  ///< the component has a unit type with units
 };
 
 /// The text that a plot's name takes for the X axis alone.
@@ -99,6 +100,7 @@ AxisView DescribeAxis(const CmqPostGraphParam& graph, const CmqGraphAxis& axis, 
   const int unitType =
       vekPostCommonGetUnitType(study, result, axis.m_nComponent, graph.m_nDynamicOption, 1);
   view.unit = Utf8(vekPostCommonGetUnitName(unitType, axis.m_nUnit));
+  view.hasUnits = !vekPostCommonGetUnitName(unitType, 0).IsEmpty();
   return view;
 }
 
@@ -127,6 +129,7 @@ std::string ShowAxis(const AxisView& view) {
   text += view.component.empty() ? "" : " " + Quoted(view.component);
   text += ", unit " + std::to_string(axis.m_nUnit);
   text += view.unit.empty() ? "" : " " + Quoted(view.unit);
+  text += view.hasUnits && view.unit.empty() ? " (there is no such unit)" : "";
   text += axis.m_nSensor == kNoSensor ? "" : ", sensor " + std::to_string(axis.m_nSensor);
   return text;
 }

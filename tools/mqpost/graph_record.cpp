@@ -28,7 +28,7 @@ std::string ShowRanges(const std::vector<VersionRange>& ranges) {
 /// What to do about a record that does not have the layout of its version.
 std::string Advise(Bytes bytes) {
   const std::vector<VersionRange> ranges = FindFittingVersions(bytes, Layout());
-  return ranges.empty() ? " Take an undamaged copy of the document."
+  return ranges.empty() ? " No version has this layout: the stream is damaged, or holds no graph."
                         : " The record has exactly the layout of the versions " +
                               ShowRanges(ranges) + ": check --doc-version.";
 }

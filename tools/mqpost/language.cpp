@@ -58,7 +58,7 @@ fs::path FindFile(const Environment& environment, const std::string& wanted) {
 }  // namespace
 
 Language::Language(Session& session, const std::optional<std::string>& wanted) {
-  if (!wanted) {
+  if (!wanted || *wanted == "en") {  // the built-in texts
     return;
   }
   m_file = FindFile(session.environment, *wanted);

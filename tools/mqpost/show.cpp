@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 
 #include "catalogue_view.h"
 #include "command_line.h"
@@ -169,16 +168,18 @@ void PrintComponents(Session& session, const std::vector<ComponentCard>& cards) 
 void PrintCard(Session& session, const Subject& subject) {
   const auto& [study, result, options, system] = subject;
   const int count = CountComponents(study, result, options);
+  const std::vector<ComponentCard> cards = DescribeComponents(subject);
+  const bool isMarked = std::ranges::any_of(cards, &ComponentCard::isDefault);
   PrintHeading(session,
                "Result " + ShowCode(Results(), result) + " of study " + ShowCode(Studies(), study));
-  PrintFacts(
-      session,
-      {{"Result name", Printable(Utf8(vekPostCommonGetResultName(result)))},
-       {"Components", std::to_string(count)},
-       {"Default", std::to_string(DefaultComponent(study, result, options)) + ", marked * below"},
-       {"Unit system", Utf8(vekPostCommonGetUnitName(Code(UnitType::UnitSystemName), system))}});
+  PrintFacts(session, {{"Result name", Printable(Utf8(vekPostCommonGetResultName(result)))},
+                       {"Components", std::to_string(count)},
+                       {"Default", std::to_string(DefaultComponent(study, result, options)) +
+                                       (isMarked ? ", marked * below" : "")},
+                       {"Unit system",
+                        Utf8(vekPostCommonGetUnitName(Code(UnitType::UnitSystemName), system))}});
   session.out << '\n';
-  PrintComponents(session, DescribeComponents(subject));
+  PrintComponents(session, cards);
 }
 
 Json ComponentToJson(const ComponentCard& card) {
@@ -234,7 +235,7 @@ ExitCode RunShow(Session& session) {
   line.Positional("STUDY", study, "name or code");
   line.Positional("RESULT", result, "name or code");
   line.OneOf("--units", subject.unitSystem, UnitSystems(), "unit system",
-             "system of the default units: si, ips or metric");
+             "of the default units: si, ips (English) or metric");
   line.OneOf("--mesh", options.meshKind, Meshes(), "kind of mesh", "solid, shell, mixed or beam");
   line.Integer("--mesh-flags", options.meshFlags, "2 or 4: a mixed mesh with rotations");
   line.Flag("--extra-stress", options.extraStress, "the extra components of a Static stress");
