@@ -1,5 +1,6 @@
 #include <mqPostCommon/catalogue/lookup.h>
 #include <mqPostCommon/catalogue/name_ids.h>
+#include <mqPostCommon/catalogue/texts.h>
 #include <mqPostCommon/platform/comm_funcs.h>
 
 namespace mqp {
@@ -46,7 +47,6 @@ constexpr Candidates Either(const Names& names, const Names& others, int first) 
 
 // clang-format off
 
-constexpr Names kFatigueNames          = Ids16(54745, 54746, 54747, 54749);
 constexpr Candidates kModeTranslations = Either(kTranslationNames, kModeTranslationNames, 0);
 constexpr Candidates kModeRotations    = Either(kRotationNames, kModeRotationNames, 4);
 
@@ -64,11 +64,11 @@ constexpr auto kCandidates = std::to_array<CandidateRow>({
     { Study::Thermal,                  Result::Thermal,        When::Always,    Numbered(kThermalNames) },
     { kStepStudies,                    Result::Displacement,   When::Always,    Numbered(First(8, kDisplacementNames)) },  // the others have names, but are not looked up
     { kStepStudies,                    Result::Stress,         When::Always,    Numbered(First(14, kStressNames)) },
-    { kTimeStudies,                    Result::Velocity,       When::Always,    Numbered(Run(54405, 54407)) + Numbered(Run(54408, 54410), 4) + One(54411, 3) + One(kRotationalResultantName, 7) },  // the resultant behind the angular ones
-    { kStepStudies,                    Result::Acceleration,   When::Always,    Numbered(Run(54412, 54414)) + Numbered(Run(54415, 54417), 0) + One(54418, 3) + One(kRotationalResultantName, 7) },  // the angular ones stand for 0 to 2 here
+    { kTimeStudies,                    Result::Velocity,       When::Always,    Numbered(First(3, kVelocityNames)) + Numbered(kAngularVelocityNames, 4) + One(54411, 3) + One(kRotationalResultantName, 7) },  // the resultant behind the angular ones
+    { kStepStudies,                    Result::Acceleration,   When::Always,    Numbered(First(3, kAccelerationNames)) + Numbered(kAngularAccelerationNames, 0) + One(54418, 3) + One(kRotationalResultantName, 7) },  // the angular ones stand for 0 to 2 here
     { Study::Fatigue,                  kAnyResult,             When::Always,    Numbered(kFatigueNames) },  // 54747, not 54020
     { Study::Dynamic,                  Result::Stress,         When::Always,    Numbered(First(12, kStressNames)) + One(kDynamicStressName, kDynamicStressComponent) },
-    { Study::Dynamic,                  Result::Acceleration,   When::Always,    Numbered(Run(54412, 54414)) + Numbered(Run(54415, 54417), 4) + One(54418, 3) + One(kRotationalResultantName, 7) },
+    { Study::Dynamic,                  Result::Acceleration,   When::Always,    Numbered(First(3, kAccelerationNames)) + Numbered(kAngularAccelerationNames, 4) + One(54418, 3) + One(kRotationalResultantName, 7) },
 });
 
 // ---------------------------------------------------------------------------------------------
@@ -103,9 +103,15 @@ constexpr int kNotFound = -1;
 constexpr int kNoResultType = 9999;
 constexpr int kKeyLength = 6;
 
-/// The part of a longer text by which names are compared: its first six code units, cut before a
-/// colon and then before a blank that do not stand in front.
-CString MakeKey(const CString& text) {
+bool NameBeginsWith(NameId id, const CString& key, CString& buffer) {
+  mqpLoadString(buffer, id);
+  return buffer.View().starts_with(key.View());
+}
+
+}  // namespace
+}  // namespace mqp
+
+CString mqp::MakeKey(const CString& text) {
   CString key = text.Left(kKeyLength);
   for (const mqChar end : {MQ_TEXT(':'), MQ_TEXT(' ')}) {
     const int position = key.Find(end);
@@ -115,14 +121,6 @@ CString MakeKey(const CString& text) {
   }
   return key;
 }
-
-bool NameBeginsWith(NameId id, const CString& key, CString& buffer) {
-  mqpLoadString(buffer, id);
-  return buffer.View().starts_with(key.View());
-}
-
-}  // namespace
-}  // namespace mqp
 
 int vekPostCommonGetComponentIndexByName(int analysisType, int resultType, int variant,
                                          CString name, int exactName) {

@@ -72,6 +72,11 @@ inline constexpr NameId kDynamicStressName        = 56061;                      
 
 // Temperatures, life, motions
 inline constexpr Names kThermalNames              = Run(54612, 54619) + Ids16(50264, 54555, 54556);
+inline constexpr Names kFatigueNames              = Ids16(54745, 54746, 54747, 54749);
+inline constexpr Names kVelocityNames             = Run(54405, 54407) + Ids16(54411);  // X, Y, Z, resultant
+inline constexpr Names kAngularVelocityNames      = Run(54408, 54410);
+inline constexpr Names kAccelerationNames         = Run(54412, 54414) + Ids16(54418);
+inline constexpr Names kAngularAccelerationNames  = Run(54415, 54417);
 inline constexpr NameId kRotationalResultantName  = 54419;
 
 // clang-format on

@@ -1,7 +1,7 @@
 #include <mqPostCommon/catalogue/components.h>
 #include <mqPostCommon/catalogue/name_ids.h>
 #include <mqPostCommon/catalogue/names.h>
-#include <mqPostCommon/platform/comm_funcs.h>
+#include <mqPostCommon/catalogue/texts.h>
 
 namespace mqp {
 namespace {
@@ -78,8 +78,8 @@ constexpr auto kFullByStudy = std::to_array<NameRow>({
     { kTimeStudies,          Result::Displacement,   When::Alternate, kOtherDisplacementNames },
     { kStepStudies,          Result::Stress,         When::Always,    First(14, kStressNames) },
     { kStepStudies,          Result::Stress,         When::BeamMesh,  First(5, kBeamStressNames) },  // of the seven
-    { kTimeStudies,          Result::Velocity,       When::Always,    Run(54405, 54407) + Ids16(54411) + Run(54408, 54410) + Ids16(kRotationalResultantName) },
-    { kTimeStudies,          Result::Acceleration,   When::Always,    Run(54412, 54414) + Ids16(54418) + Run(54415, 54417) },
+    { kTimeStudies,          Result::Velocity,       When::Always,    kVelocityNames + kAngularVelocityNames + Ids16(kRotationalResultantName) },
+    { kTimeStudies,          Result::Acceleration,   When::Always,    kAccelerationNames + kAngularAccelerationNames },
     { Study::Fatigue,        kAnyResult,             When::Always,    Ids16(54745, 54746, 54020, 54749, 54745) },  // component 4 repeats 0
     { Study::Dynamic,        Result::Displacement,   When::Always,    From(15, Ids16(kRotationalResultantName)) },
     { Study::Dynamic,        Result::Displacement,   When::Alternate, From(15, Ids16(kRotationalResultantName)) },
@@ -217,14 +217,6 @@ constexpr auto kResultNameIndex = [] {
   return index;
 }();
 
-CString LoadName(NameId id) {
-  CString text;
-  if (id != kNoName) {
-    mqpLoadString(text, id);
-  }
-  return text;
-}
-
 When ModeCondition() noexcept {
   return If(vekPostCommonGetActualFreqDispFlag() != 0, When::RealModes);
 }
@@ -244,7 +236,7 @@ CString CutAtColon(const CString& text) {
 
 CString vekPostCommonGetResultName(int resultType) {
   using namespace mqp;
-  return LoadName(kResultNameIndex[ResultSlot(resultType)]);
+  return LoadText(kResultNameIndex[ResultSlot(resultType)]);
 }
 
 CString vekPostCommonGetComponentName(int analysisType, int resultType, int /*ignored*/,
@@ -252,7 +244,7 @@ CString vekPostCommonGetComponentName(int analysisType, int resultType, int /*ig
   using namespace mqp;
   const When given =
       ModeCondition() | BeamCondition(meshKind) | If(alternateNames != 0, When::Alternate);
-  return LoadName(kFullIndex.At(analysisType, resultType, given, component));
+  return LoadText(kFullIndex.At(analysisType, resultType, given, component));
 }
 
 CString vekPostCommonGetComponentNameBar(int analysisType, int resultType, int passOn,
@@ -260,7 +252,7 @@ CString vekPostCommonGetComponentNameBar(int analysisType, int resultType, int p
   using namespace mqp;
   const When given =
       ModeCondition() | BeamCondition(meshKind) | If(fatigueVariant == 1, When::FatigueVariant);
-  CString text = LoadName(kBarIndex.At(analysisType, resultType, given, component));
+  CString text = LoadText(kBarIndex.At(analysisType, resultType, given, component));
   const bool fallsBack =
       resultType != Code(ResultType::ResultType53) && resultType != Code(ResultType::ResultType54);
   if (text.IsEmpty() && fallsBack) {
@@ -278,7 +270,7 @@ CString vekPostCommonGetComponentNameShort(int analysisType, int resultType, int
 CString vekPostCommonGetComponentNameBrief(int analysisType, int resultType, int /*passOn*/,
                                            int component) {
   using namespace mqp;
-  return LoadName(kBriefIndex.At(analysisType, resultType, ModeCondition(), component));
+  return LoadText(kBriefIndex.At(analysisType, resultType, ModeCondition(), component));
 }
 
 CString vekPostCommonGetGraphNameForReport(int analysisType, int resultType, int chartVariant,
@@ -286,5 +278,5 @@ CString vekPostCommonGetGraphNameForReport(int analysisType, int resultType, int
   using namespace mqp;
   const When given = If(chartVariant != 0, When::ChartVariant) |
                      If(dynamicOption == 1 || dynamicOption == 2, When::DynamicOption1Or2);
-  return LoadName(kTitleIndex.At(analysisType, resultType, given, 0));
+  return LoadText(kTitleIndex.At(analysisType, resultType, given, 0));
 }

@@ -212,6 +212,12 @@ struct Sequence {
   bool hasOthers = false;
   V others{};  ///< the value of every component that is not listed
 
+  [[nodiscard]] constexpr bool Lists(int component) const {
+    return component >= first && component < first + count;
+  }
+  [[nodiscard]] constexpr V At(int component) const {
+    return Lists(component) ? values[static_cast<std::size_t>(component - first)] : others;
+  }
   friend constexpr Sequence operator+(Sequence left, const Sequence& right) {
     for (int place = 0; place < right.count; ++place) {
       left.values.at(static_cast<std::size_t>(left.count++)) =
@@ -234,12 +240,8 @@ struct SequenceRow {
   [[nodiscard]] constexpr int End() const {
     return sequence.count == 0 ? 0 : sequence.first + sequence.count;
   }
-  [[nodiscard]] constexpr bool Lists(int component) const {
-    return component >= sequence.first && component < End();
-  }
-  [[nodiscard]] constexpr V At(int component) const {
-    return sequence.values[static_cast<std::size_t>(component - sequence.first)];
-  }
+  [[nodiscard]] constexpr bool Lists(int component) const { return sequence.Lists(component); }
+  [[nodiscard]] constexpr V At(int component) const { return sequence.At(component); }
   [[nodiscard]] constexpr bool HasOthers() const { return sequence.hasOthers; }
   [[nodiscard]] constexpr V Others() const { return sequence.others; }
 };

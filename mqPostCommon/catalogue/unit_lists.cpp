@@ -102,4 +102,4 @@ constexpr std::array<UnitList, kUnitListTotal> MakeLists() {
 }  // namespace
 }  // namespace mqp
 
-constinit const std::array<UnitList, kUnitListTotal> g_UnitLists = mqp::MakeLists();
+constinit const std::array<mqp::UnitList, mqp::kUnitListTotal> g_UnitLists = mqp::MakeLists();

@@ -9,6 +9,8 @@
 #include <mqPostCommon/export.h>
 #include <mqPostCommon/platform/text.h>
 
+namespace mqp {
+
 /// The place of each list in `g_UnitLists`.
 enum class UnitListId : int {
   UnitSystem,
@@ -75,5 +77,7 @@ struct UnitList {
 
 inline constexpr int kUnitListTotal = 54;
 
+}  // namespace mqp
+
 /// Every unit list, in order of `UnitListId`. Constant, ready before any code runs.
-extern MQPOSTCOMMON_API const std::array<UnitList, kUnitListTotal> g_UnitLists;
+extern MQPOSTCOMMON_API const std::array<mqp::UnitList, mqp::kUnitListTotal> g_UnitLists;

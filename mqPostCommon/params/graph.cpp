@@ -5,10 +5,10 @@
 #include <mqPostCommon/catalogue/components.h>
 #include <mqPostCommon/catalogue/name_ids.h>
 #include <mqPostCommon/catalogue/names.h>
+#include <mqPostCommon/catalogue/texts.h>
 #include <mqPostCommon/catalogue/units.h>
 #include <mqPostCommon/params/graph.h>
 #include <mqPostCommon/params/stream/record.h>
-#include <mqPostCommon/platform/comm_funcs.h>
 
 namespace mqp {
 namespace {
@@ -36,12 +36,6 @@ constexpr bool IsMotion(int quantityType) noexcept {
   return quantityType == Code(ResultType::Displacement) ||
          quantityType == Code(ResultType::Velocity) ||
          quantityType == Code(ResultType::Acceleration);
-}
-
-CString Load(UINT id) {
-  CString text;
-  mqpLoadString(text, id);
-  return text;
 }
 
 CString InBrackets(const CString& text) {
@@ -81,7 +75,7 @@ void VisitFields(Graph& graph, Visitor& visitor) {
   visitor.Integers(800018, "eighteen integers",                                ValuesOf(graph.m_nHost17));
   visitor.Integers(800026, "integer before the fourth string",                 ValuesOf(graph.m_nHost19));
   visitor.Strings (800026, "fourth string",                                    ValuesOf(graph.m_strHost20));
-  visitor.Doubles (800026, "view matrix",                                      ValuesOf(graph.m_ViewMatrix));
+  visitor.Doubles (800026, "view matrix",                                      ValuesOf(graph.m_ViewMatrix.m_dRows));
   visitor.Integers(800062, "three integers after the view matrix",             ValuesOf(graph.m_nHost22));
   visitor.Integers(820022, "integer before the two doubles",                   ValuesOf(graph.m_nHost25));
   visitor.Doubles (820022, "two doubles",                                      ValuesOf(graph.m_dHost26));
@@ -127,10 +121,10 @@ CString NameAxis(const CmqPostGraphParam& graph, const CmqGraphAxis& axis, int n
   const int quantityType = axis.m_nQuantityType;
   const bool dynamic = graph.m_nAnalysisType == Code(AnalysisType::Dynamic);
   if (quantityType == kStepQuantity) {
-    return Load(dynamic && graph.m_nDynamicOption != 0 ? 50004 : 51724);
+    return LoadText(dynamic && graph.m_nDynamicOption != 0 ? 50004 : 51724);
   }
   if (quantityType == kOtherQuantity) {
-    return Load(50578);
+    return LoadText(50578);
   }
   if (!IsMotion(quantityType) && quantityType != Code(ResultType::Stress)) {
     return {};
@@ -138,7 +132,7 @@ CString NameAxis(const CmqPostGraphParam& graph, const CmqGraphAxis& axis, int n
   CString name = vekPostCommonGetComponentNameBar(graph.m_nAnalysisType, quantityType, 1,
                                                   axis.m_nComponent, nameOption, 0);
   if (IsMotion(quantityType) && dynamic && graph.m_nDynamicOption == kUnitFlagOption) {
-    name += InBrackets(Load(graph.m_nYUnitFlag != 0 ? 53044 : 54441));
+    name += InBrackets(LoadText(graph.m_nYUnitFlag != 0 ? 53044 : 54441));
   }
   return name;
 }
@@ -146,7 +140,7 @@ CString NameAxis(const CmqPostGraphParam& graph, const CmqGraphAxis& axis, int n
 CString NameFrequencyResponse(int mode) {
   constexpr UINT kModeNames[] = {54668, 55124, 55125};
   const auto place = static_cast<unsigned>(mode);
-  return place < std::size(kModeNames) ? Load(55123) + Load(kModeNames[place]) : CString();
+  return place < std::size(kModeNames) ? LoadText(55123) + LoadText(kModeNames[place]) : CString();
 }
 
 int YUnitType(const CmqPostGraphParam& graph) noexcept {
@@ -156,12 +150,6 @@ int YUnitType(const CmqPostGraphParam& graph) noexcept {
 
 CString NameYUnit(const CmqPostGraphParam& graph) {
   return vekPostCommonGetUnitName(YUnitType(graph), graph.m_YAxis.m_nUnit);
-}
-
-CString NameBeamStress(int component) {
-  return component >= 0 && component < kBeamStressNames.count
-             ? Load(kBeamStressNames.values[static_cast<std::size_t>(component)])
-             : CString();
 }
 
 }  // namespace
@@ -214,7 +202,7 @@ CString CmqPostGraphParam::GetDefaultPlotName(int nameOption) const {
   name += yName;
   if (m_nAnalysisType == Code(AnalysisType::Dynamic) && m_nDynamicOption == kSpectralOption &&
       m_XAxis.m_nQuantityType == kStepQuantity) {
-    name += MQ_TEXT("-") + Load(54477);
+    name += MQ_TEXT("-") + LoadText(54477);
   }
   return name;
 }
@@ -226,18 +214,18 @@ CString CmqPostGraphParam::GetYTitle(int nameOption, int flag) const {
   if (dynamic && m_nDynamicOption == kUnitFlagOption && IsMotion(m_YAxis.m_nQuantityType)) {
     const CString title = vekPostCommonGetComponentNameShort(m_nAnalysisType, m_nResultType,
                                                              m_nResultOption, m_YAxis.m_nComponent);
-    return m_nYUnitFlag != 0 ? title + MQ_TEXT("-") + Load(53044) + InBrackets(NameYUnit(*this))
-                             : title + MQ_TEXT("-") + Load(54441) + InBrackets(Load(54684));
+    return m_nYUnitFlag != 0 ? title + MQ_TEXT("-") + LoadText(53044) + InBrackets(NameYUnit(*this))
+                             : title + MQ_TEXT("-") + LoadText(54441) + InBrackets(LoadText(54684));
   }
   if (dynamic && m_YAxis.m_nQuantityType == Code(ResultType::Stress) &&
       (nameOption == Code(MeshKind::BeamMesh) ||
        (nameOption == Code(MeshKind::MixedMesh) && flag != 0))) {
-    return NameBeamStress(m_YAxis.m_nComponent) + InBrackets(NameYUnit(*this));
+    return LoadText(kBeamStressNames.At(m_YAxis.m_nComponent)) + InBrackets(NameYUnit(*this));
   }
   CString title = vekPostCommonGetComponentNameBar(m_nAnalysisType, m_nResultType, m_nResultOption,
                                                    m_YAxis.m_nComponent, nameOption, 0);
   if (dynamic && m_nDynamicOption == kSpectralOption && m_XAxis.m_nQuantityType == kStepQuantity) {
-    title += MQ_TEXT(" ") + Load(54477);
+    title += MQ_TEXT(" ") + LoadText(54477);
   }
   return title + InBrackets(NameYUnit(*this));
 }
@@ -295,6 +283,7 @@ int CmqPostGraphParam::WriteToStream(IStream* stream) const {
   }
   mqp::RecordWriter writer(*stream);
   mqp::VisitFields(*this, writer);
+  writer.Finish();
   return 1;
 }
 
@@ -302,10 +291,9 @@ int CmqPostGraphParam::ReadFromStream(IStream* stream, int version) {
   if (stream == nullptr || version < mqp::kFirstVersion) {
     return 0;
   }
-  {
-    mqp::RecordReader reader(*stream, version);
-    mqp::VisitFields(*this, reader);
-  }
+  mqp::RecordReader reader(*stream, version);
+  mqp::VisitFields(*this, reader);
+  reader.Finish();
   if (version >= mqp::kYUnitFlagVersion && m_nYUnitFlag == 0 && mqp::NeedsYUnit(*this)) {
     m_nYUnitFlag = 1;
   }

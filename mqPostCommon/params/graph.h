@@ -7,6 +7,7 @@
 
 #include <mqPostCommon/export.h>
 #include <mqPostCommon/params/stream/record_field.h>
+#include <mqPostCommon/params/view_matrix.h>
 #include <mqPostCommon/platform/integers.h>
 #include <mqPostCommon/platform/preference.h>
 #include <mqPostCommon/platform/stream.h>
@@ -93,43 +94,40 @@ class MQPOSTCOMMON_API CmqPostGraphParam {
   [[nodiscard]] static std::vector<mqp::RecordField> GetRecordFields();
 
   // clang-format off
-  int          m_nAnalysisType = 0;            ///< an `AnalysisType`
-  int          m_nResultType = 0;              ///< a `ResultType`
-  int          m_nHost3 = 1;
-  int          m_nResultOption = 0;            ///< passed on to the component naming functions
-  int          m_nHost5[2] = {0, 0};
-  int          m_nHost6 = 1;
-  int          m_nHost7[2] = {0, 0};
-  CmqGraphAxis m_XAxis = {14, 0, 0, -1};
-  CmqGraphAxis m_YAxis = {1, 0, 0, -1};        ///< its sensor is the transient sensor
-  int          m_nHost16[6] = {-1, -1, -1, -1, -1, -1};
-  int          m_nHost17[18] = {};
-  CString      m_strHost18[3];
-  int          m_nHost19 = -1;
-  CString      m_strHost20;
-  double       m_ViewMatrix[4][4] = {{1.0, 0.0, 0.0, 0.0},
-                                     {0.0, 1.0, 0.0, 0.0},
-                                     {0.0, 0.0, 1.0, 0.0},
-                                     {0.0, 0.0, 0.0, 1.0}};  ///< row by row
-  int          m_nHost22[3] = {1, 0, 0};
-  int          m_nDynamicOption = 0;           ///< 1: the Y unit flag names motions, 2: spectral densities; not persisted
-  int          m_nHost24 = 0;                  ///< not persisted
-  int          m_nHost25 = 1;
-  double       m_dHost26[2] = {0.0, 0.0};
-  int          m_nHost27 = 1;
-  int          m_nYUnitFlag = 1;               ///< 0 under dynamic option 1: dimensionless motions
-  int          m_nHost29[2] = {1, 1};          ///< not persisted
-  int          m_nHost30 = 0;
-  int          m_nHost31 = 0;                  ///< not persisted
-  int          m_nFrequencyResponseFlag = 0;   ///< 1: a frequency response graph
-  int          m_nFrequencyResponseMode = -1;  ///< 0 to 2 have a name
-  int          m_nHost34[4] = {0, 0, 0, 0};
-  double       m_dHost35 = 0.0;
-  CString      m_strHost36;                    ///< not persisted
-  int          m_nHost37[2] = {0, 0};          ///< not persisted
-  __int64      m_n64Host37 = 0;                ///< not persisted
-  std::map<int, CString> m_mapHost38;          ///< not persisted
-  int          m_nHost39 = 0;
+  int             m_nAnalysisType = 0;            ///< an `AnalysisType`
+  int             m_nResultType = 0;              ///< a `ResultType`
+  int             m_nHost3 = 1;
+  int             m_nResultOption = 0;            ///< passed on to the component naming functions
+  int             m_nHost5[2] = {0, 0};
+  int             m_nHost6 = 1;
+  int             m_nHost7[2] = {0, 0};
+  CmqGraphAxis    m_XAxis = {14, 0, 0, -1};
+  CmqGraphAxis    m_YAxis = {1, 0, 0, -1};        ///< its sensor is the transient sensor
+  int             m_nHost16[6] = {-1, -1, -1, -1, -1, -1};
+  int             m_nHost17[18] = {};
+  CString         m_strHost18[3];
+  int             m_nHost19 = -1;
+  CString         m_strHost20;
+  mqp::ViewMatrix m_ViewMatrix;
+  int             m_nHost22[3] = {1, 0, 0};
+  int             m_nDynamicOption = 0;           ///< 1: the Y unit flag names motions, 2: spectral densities; not persisted
+  int             m_nHost24 = 0;                  ///< not persisted
+  int             m_nHost25 = 1;
+  double          m_dHost26[2] = {0.0, 0.0};
+  int             m_nHost27 = 1;
+  int             m_nYUnitFlag = 1;               ///< 0 under dynamic option 1: dimensionless motions
+  int             m_nHost29[2] = {1, 1};          ///< not persisted
+  int             m_nHost30 = 0;
+  int             m_nHost31 = 0;                  ///< not persisted
+  int             m_nFrequencyResponseFlag = 0;   ///< 1: a frequency response graph
+  int             m_nFrequencyResponseMode = -1;  ///< 0 to 2 have a name
+  int             m_nHost34[4] = {0, 0, 0, 0};
+  double          m_dHost35 = 0.0;
+  CString         m_strHost36;                    ///< not persisted
+  int             m_nHost37[2] = {0, 0};          ///< not persisted
+  __int64         m_n64Host37 = 0;                ///< not persisted
+  std::map<int, CString> m_mapHost38;             ///< not persisted
+  int             m_nHost39 = 0;
   // clang-format on
 
  private:

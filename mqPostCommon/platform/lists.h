@@ -4,6 +4,8 @@
 /// is removed.
 #pragma once
 
+#include <utility>
+
 #include <mqPostCommon/platform/wide_string.h>
 
 struct __POSITION;  // NOLINT(bugprone-reserved-identifier): the framework's name
@@ -24,14 +26,27 @@ class CObject {
 namespace mqp {
 
 /// A doubly linked list of values, each in a node of its own. It owns the nodes; what the values
-/// point to is the caller's. Positions handed in must come from this list and not be null unless
-/// said otherwise; an empty list has no head and no tail to return or remove.
+/// point to is the caller's. As in the framework it is not copied by itself; a list that is moved
+/// takes its nodes and their positions along and leaves an empty one. Positions handed in must come
+/// from this list and not be null unless said otherwise; an empty list has no head and no tail to
+/// return or remove.
 template <class Value>
 class LinkedList {
  public:
   explicit LinkedList(int /*blockSize*/ = 10) {}
   LinkedList(const LinkedList&) = delete;
   LinkedList& operator=(const LinkedList&) = delete;
+  LinkedList(LinkedList&& other) noexcept
+      : m_head(std::exchange(other.m_head, nullptr)),
+        m_tail(std::exchange(other.m_tail, nullptr)),
+        m_count(std::exchange(other.m_count, 0)) {}
+  LinkedList& operator=(LinkedList&& other) noexcept {
+    LinkedList taken(std::move(other));
+    std::swap(m_head, taken.m_head);
+    std::swap(m_tail, taken.m_tail);
+    std::swap(m_count, taken.m_count);
+    return *this;
+  }
   ~LinkedList() { RemoveAll(); }
 
   [[nodiscard]] int GetCount() const noexcept { return m_count; }

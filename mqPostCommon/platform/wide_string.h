@@ -167,21 +167,20 @@ class CString {
   /// Replaces every occurrence, left to right and without looking at what was put in.
   /// \return how many were replaced; 0 for an empty or null `old`
   int Replace(const CString& old, const CString& replacement) {
-    if (old.IsEmpty()) {
+    const int replaced = CountOccurrences(old);
+    if (replaced == 0) {
       return 0;
     }
-    int replaced = 0;
     std::basic_string<mqChar> result;
+    result.reserve(m_text.size() - Count(replaced) * old.m_text.size() +
+                   Count(replaced) * replacement.m_text.size());
     std::size_t done = 0;
-    for (std::size_t found = m_text.find(old.m_text); found != mqTextView::npos;
-         found = m_text.find(old.m_text, done)) {
+    for (int left = replaced; left > 0; --left) {
+      const std::size_t found = m_text.find(old.m_text, done);
       result.append(m_text, done, found - done).append(replacement.m_text);
       done = found + old.m_text.size();
-      ++replaced;
     }
-    if (replaced > 0) {
-      m_text = std::move(result.append(m_text, done));
-    }
+    m_text = std::move(result.append(m_text, done));
     return replaced;
   }
   /// The same for code units; replacing one by itself counts as none.
@@ -234,6 +233,15 @@ class CString {
   }
   static int Position(std::size_t position) noexcept {
     return position == mqTextView::npos ? -1 : static_cast<int>(position);
+  }
+  /// Those that do not overlap, left to right.
+  [[nodiscard]] int CountOccurrences(const CString& text) const noexcept {
+    int count = 0;
+    for (int found = text.IsEmpty() ? -1 : Find(text); found >= 0;
+         found = Find(text, found + text.GetLength())) {
+      ++count;
+    }
+    return count;
   }
   static int Sign(int order) noexcept { return order == 0 ? 0 : (order < 0 ? -1 : 1); }
 

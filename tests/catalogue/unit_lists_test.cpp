@@ -11,6 +11,7 @@
 #include <mqPostCommon/catalogue/units.h>
 #include <mqPostCommon/platform/text.h>
 
+namespace mqp::test {
 namespace {
 
 using Text = std::basic_string<mqChar>;
@@ -160,3 +161,4 @@ TEST(UnitLists, DifferFromTheNamesOfTheSameQuantity) {
 }
 
 }  // namespace
+}  // namespace mqp::test

@@ -1,8 +1,9 @@
 /// \file
-/// What the tests of the stream records share: bytes laid out by hand, streams that fail, and the
-/// members of a graph one by one.
+/// What the tests of the stream records share: bytes laid out by hand, streams that fail, the
+/// members of a graph one by one, and equation plots as plain values.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstddef>
@@ -10,6 +11,7 @@
 #include <cstdio>
 #include <initializer_list>
 #include <map>
+#include <memory>
 #include <ostream>
 #include <string>
 #include <type_traits>
@@ -18,6 +20,7 @@
 #include <vector>
 
 #include <storage/memory_stream.h>
+#include <mqPostCommon/params/equation_plot.h>
 #include <mqPostCommon/params/graph.h>
 #include <mqPostCommon/platform/stream.h>
 #include <mqPostCommon/platform/text.h>
@@ -224,7 +227,7 @@ void VisitMembers(Graph& graph, Visit visit) {
   each("m_strHost18", graph.m_strHost18);
   visit("m_nHost19", -1, graph.m_nHost19);
   visit("m_strHost20", -1, graph.m_strHost20);
-  for (auto& row : graph.m_ViewMatrix) {
+  for (auto& row : graph.m_ViewMatrix.m_dRows) {
     each("m_ViewMatrix (row)", row);
   }
   each("m_nHost22", graph.m_nHost22);
@@ -377,7 +380,7 @@ std::vector<RecordSlot<Graph>> RecordSlots(Graph& graph) {
   all(800018, graph.m_nHost17);
   one(800026, graph.m_nHost19);
   one(800026, graph.m_strHost20);
-  for (auto& row : graph.m_ViewMatrix) {
+  for (auto& row : graph.m_ViewMatrix.m_dRows) {
     all(800026, row);
   }
   all(800062, graph.m_nHost22);
@@ -410,6 +413,145 @@ inline ByteString BuildRecord(const CmqPostGraphParam& graph, int version) {
     }
   }
   return appender.bytes.Get();
+}
+
+// --- equation plots ---
+
+/// The members of a variable as plain values; a new one has those of a new variable.
+struct VariableState {
+  CString name = MQ_TEXT("Variable");
+  int resultType = 2;
+  int component = 9;
+  double coefficient = 1.0;
+};
+
+/// The members of an equation plot as plain values; a new one has those of a new plot.
+struct EquationState {
+  CString equation{};
+  int coefficientsFlag = 0;
+  std::array<CString, 2> host3{};
+  std::vector<VariableState> variables{};
+  CString displayEquation{};
+};
+
+inline VariableState StateOf(const CmqEquationVariable& variable) {
+  return {variable.m_strName, variable.m_nResultType, variable.m_nComponent,
+          variable.m_dCoefficient};
+}
+inline EquationState StateOf(const CmqEquationPlotParam& plot) {
+  EquationState state{plot.m_strEquation,
+                      plot.m_nCoefficientsFlag,
+                      {plot.m_strHost3[0], plot.m_strHost3[1]},
+                      {},
+                      plot.m_strDisplayEquation};
+  for (POSITION position = plot.m_listVariables.GetHeadPosition(); position != nullptr;) {
+    state.variables.push_back(StateOf(*plot.m_listVariables.GetNext(position)));
+  }
+  return state;
+}
+
+inline void SetState(CmqEquationVariable& variable, const VariableState& state) {
+  variable.m_strName = state.name;
+  variable.m_nResultType = state.resultType;
+  variable.m_nComponent = state.component;
+  variable.m_dCoefficient = state.coefficient;
+}
+inline void SetState(CmqEquationPlotParam& plot, const EquationState& state) {
+  plot.m_strEquation = state.equation;
+  plot.m_nCoefficientsFlag = state.coefficientsFlag;
+  plot.m_strHost3[0] = state.host3[0];
+  plot.m_strHost3[1] = state.host3[1];
+  plot.m_listVariables.DeleteAll();
+  for (const VariableState& variable : state.variables) {
+    SetState(plot.m_listVariables.Append(std::make_unique<CmqEquationVariable>()), variable);
+  }
+  plot.m_strDisplayEquation = state.displayEquation;
+}
+
+/// A line when a member differs; empty when it does not.
+template <class Value>
+std::string MemberDifference(const char* name, const Value& got, const Value& expected) {
+  return IsSame(got, expected)
+             ? std::string()
+             : std::string(name) + ": got " + Show(got) + ", expected " + Show(expected) + '\n';
+}
+
+/// Every member in which two variables differ, a line each; empty when they are equal.
+inline std::string Differences(const VariableState& got, const VariableState& expected) {
+  return MemberDifference("name", got.name, expected.name) +
+         MemberDifference("result type", got.resultType, expected.resultType) +
+         MemberDifference("component", got.component, expected.component) +
+         MemberDifference("coefficient", got.coefficient, expected.coefficient);
+}
+inline std::string Differences(const CmqEquationVariable& got, const VariableState& expected) {
+  return Differences(StateOf(got), expected);
+}
+/// Every member in which two equation plots differ, a line each; empty when they are equal.
+inline std::string Differences(const EquationState& got, const EquationState& expected) {
+  std::string text =
+      MemberDifference("equation", got.equation, expected.equation) +
+      MemberDifference("coefficients flag", got.coefficientsFlag, expected.coefficientsFlag) +
+      MemberDifference("first string", got.host3[0], expected.host3[0]) +
+      MemberDifference("second string", got.host3[1], expected.host3[1]) +
+      MemberDifference("display equation", got.displayEquation, expected.displayEquation) +
+      MemberDifference("count of variables", static_cast<int>(got.variables.size()),
+                       static_cast<int>(expected.variables.size()));
+  const std::size_t common = std::min(got.variables.size(), expected.variables.size());
+  for (std::size_t place = 0; place < common; ++place) {
+    const std::string difference = Differences(got.variables[place], expected.variables[place]);
+    if (!difference.empty()) {
+      text += "variable " + std::to_string(place) + ":\n" + difference;
+    }
+  }
+  return text;
+}
+inline std::string Differences(const CmqEquationPlotParam& got, const EquationState& expected) {
+  return Differences(StateOf(got), expected);
+}
+
+inline VariableState FilledVariable(int seed) {
+  CString name;
+  name.Format(MQ_TEXT("name \u03A9 %d"), seed);
+  return {name, seed * 0x0101'0101, -seed * 0x0101'0203, -1.0 / 3.0 - seed / 7.0};
+}
+/// Gives every member a value of its own, different from each default and from those of another
+/// seed from 1 to 7.
+inline EquationState FilledEquation(int seed, int variables = 3) {
+  const auto text = [seed](int member) {
+    CString filled;
+    filled.Format(MQ_TEXT("text \u4E2D %d"), 100 * seed + member);
+    return filled;
+  };
+  EquationState state{text(1), seed * 0x1111'1111, {text(2), text(3)}, {}, text(4)};
+  for (int place = 0; place < variables; ++place) {
+    state.variables.push_back(FilledVariable(10 * seed + place));
+  }
+  return state;
+}
+
+/// The record of a variable, laid out by hand.
+inline ByteString BuildRecord(const VariableState& variable) {
+  return RecordBytes()
+      .Text(variable.name.View())
+      .Integer(variable.resultType)
+      .Integer(variable.component)
+      .Double(variable.coefficient)
+      .Get();
+}
+/// The record of an equation plot, laid out by hand.
+inline ByteString BuildRecord(const EquationState& plot) {
+  ByteString bytes = RecordBytes()
+                         .Text(plot.equation.View())
+                         .Integer(plot.coefficientsFlag)
+                         .Text(plot.host3[0].View())
+                         .Text(plot.host3[1].View())
+                         .Integer(static_cast<int>(plot.variables.size()))
+                         .Get();
+  for (const VariableState& variable : plot.variables) {
+    const ByteString record = BuildRecord(variable);
+    bytes.insert(bytes.end(), record.begin(), record.end());
+  }
+  return bytes;
 }
 
 }  // namespace mqp::test

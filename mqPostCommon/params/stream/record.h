@@ -4,10 +4,12 @@
 // cannot differ.
 //
 //     record := field*                  no tags, lengths, alignment or padding
-//     field  := integer | double | string
+//     field  := integer | double | string | list
+//     list   := count record*           count := integer
 //
-// A visitor has three operations, each with the first document version that has the field:
-// Integers, Doubles and Strings.
+// A visitor has four operations, each with the first document version that has the field:
+// Integers, Doubles, Strings and Records. The last one is given a list and a function that visits
+// the fields of one of its objects.
 #pragma once
 
 #include <algorithm>
@@ -16,13 +18,16 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <span>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include <mqPostCommon/params/owned.h>
 #include <mqPostCommon/params/stream/record_field.h>
 #include <mqPostCommon/params/stream/strings.h>
+#include <mqPostCommon/platform/comm_funcs.h>
 #include <mqPostCommon/platform/stream.h>
 
 namespace mqp {
@@ -47,16 +52,22 @@ Value LoadLittleEndian(const std::byte* bytes) noexcept {
   return value;
 }
 
-void WriteStringRecord(IStream& stream, const CString& text);
+/// A list of records is read up to this length. No document holds more; a count beyond it comes
+/// from damaged bytes, and no memory would suffice for the largest.
+inline constexpr int kMaximumRecordCount = 65536;
 
-/// Writes fields of every version. Fixed fields that follow one another go into the stream in one
-/// call; what the stream answers is not looked at.
+/// Reads the characters of a string record whose count has been read.
+/// \return false for a count of 0 or less: nothing is read, and the text keeps its value
+bool ReadCharacters(IStream& stream, int count, CString& text);
+
+/// Writes fields of every version. Fields that follow one another go into the stream in one call
+/// as far as the buffer has room; what the stream answers is not looked at. Nothing is complete
+/// without `Finish`.
 class RecordWriter {
  public:
   explicit RecordWriter(IStream& stream) : m_stream(stream) {}
   RecordWriter(const RecordWriter&) = delete;
   RecordWriter& operator=(const RecordWriter&) = delete;
-  ~RecordWriter() { Flush(); }
 
   void Integers(int /*since*/, std::string_view /*name*/, std::span<const int> values) {
     Fixed(values);
@@ -65,9 +76,22 @@ class RecordWriter {
     Fixed(values);
   }
   void Strings(int /*since*/, std::string_view /*name*/, std::span<const CString> values) {
-    Flush();
     for (const CString& text : values) {
-      WriteStringRecord(m_stream, text);
+      Text(text);
+    }
+  }
+  template <class List, class Visit>
+  void Records(int since, std::string_view name, const List& list, Visit visit) {
+    const int count = list.GetCount();
+    Integers(since, name, {&count, 1});
+    for (POSITION position = list.GetHeadPosition(); position != nullptr;) {
+      visit(*list.GetNext(position));
+    }
+  }
+  void Finish() {
+    if (m_used > 0) {
+      m_stream.Write(m_buffer.data(), static_cast<ULONG>(m_used), nullptr);
+      m_used = 0;
     }
   }
 
@@ -75,34 +99,41 @@ class RecordWriter {
   template <class Value>
   void Fixed(std::span<const Value> values) {
     for (const Value& value : values) {
-      if (m_buffer.size() - m_used < sizeof(Value)) {
-        Flush();
-      }
-      StoreLittleEndian(value, m_buffer.data() + m_used);
-      m_used += sizeof(Value);
+      Store(value);
     }
   }
-  void Flush() {
-    if (m_used > 0) {
-      m_stream.Write(m_buffer.data(), static_cast<ULONG>(m_used), nullptr);
-      m_used = 0;
+  void Text(const CString& text) {
+    std::array<unsigned short, kMaximumStringRecordLength> units;
+    const int count = std::min(text.GetLength(), kMaximumStringRecordLength);
+    STRING2LPUSHORT(text, units.data(), count);
+    Store(count);
+    for (const unsigned short unit : std::span(units).first(static_cast<std::size_t>(count))) {
+      Store(unit);
     }
+  }
+  template <class Value>
+  void Store(Value value) {
+    if (m_buffer.size() - m_used < sizeof(Value)) {
+      Finish();
+    }
+    StoreLittleEndian(value, m_buffer.data() + m_used);
+    m_used += sizeof(Value);
   }
 
   IStream& m_stream;
-  std::array<std::byte, 512> m_buffer;
+  std::array<std::byte, 4096> m_buffer;
   std::size_t m_used = 0;
 };
 
 /// Reads the fields that a document of a version has; the others keep their values. Fixed fields
 /// that follow one another are read in one call over a buffer that holds their previous bytes:
-/// where the stream ends early, a field keeps the bytes that were not delivered.
+/// where the stream ends early, a field keeps the bytes that were not delivered. The fields have
+/// their values after `Finish`; those before a text or a list already when these are read.
 class RecordReader {
  public:
   RecordReader(IStream& stream, int version) : m_stream(stream), m_version(version) {}
   RecordReader(const RecordReader&) = delete;
   RecordReader& operator=(const RecordReader&) = delete;
-  ~RecordReader() { Flush(); }
 
   void Integers(int since, std::string_view /*name*/, std::span<int> values) {
     Fixed(since, values);
@@ -114,33 +145,22 @@ class RecordReader {
     if (m_version < since) {
       return;
     }
-    Flush();
     for (CString& text : values) {
-      CStringReadFromStream(&m_stream, &text);
+      ReadCharacters(m_stream, ReadCount(), text);
     }
   }
-
- private:
-  struct Target {
-    void* value;
-    std::size_t size;
-  };
-
-  template <class Value>
-  void Fixed(int since, std::span<Value> values) {
+  /// Appends to the list. Nothing is reserved: only as many objects are made as are read.
+  template <class Object, class Visit>
+  void Records(int since, std::string_view /*name*/, OwnedList<Object>& list, Visit visit) {
     if (m_version < since) {
       return;
     }
-    for (Value& value : values) {
-      if (m_buffer.size() - m_used < sizeof(Value) || m_targetCount == m_targets.size()) {
-        Flush();
-      }
-      StoreLittleEndian(value, m_buffer.data() + m_used);
-      m_used += sizeof(Value);
-      m_targets[m_targetCount++] = {&value, sizeof(Value)};
+    const int count = std::min(ReadCount(), kMaximumRecordCount);
+    for (int place = 0; place < count; ++place) {
+      visit(list.Append(std::make_unique<Object>()));
     }
   }
-  void Flush() {
+  void Finish() {
     if (m_used == 0) {
       return;
     }
@@ -156,6 +176,34 @@ class RecordReader {
     }
     m_used = 0;
     m_targetCount = 0;
+  }
+
+ private:
+  struct Target {
+    void* value;
+    std::size_t size;
+  };
+
+  template <class Value>
+  void Fixed(int since, std::span<Value> values) {
+    if (m_version < since) {
+      return;
+    }
+    for (Value& value : values) {
+      if (m_buffer.size() - m_used < sizeof(Value) || m_targetCount == m_targets.size()) {
+        Finish();
+      }
+      StoreLittleEndian(value, m_buffer.data() + m_used);
+      m_used += sizeof(Value);
+      m_targets[m_targetCount++] = {&value, sizeof(Value)};
+    }
+  }
+  /// Together with the fields before it; 0 as far as the stream does not deliver it.
+  int ReadCount() {
+    int count = 0;
+    Integers(m_version, {}, {&count, 1});
+    Finish();
+    return count;
   }
 
   IStream& m_stream;
@@ -177,6 +225,11 @@ class FieldLister {
   }
   void Strings(int since, std::string_view name, std::span<const CString> values) {
     Add(since, name, FieldType::String, values.size());
+  }
+  /// The count alone: the records of a list are laid out by the field list of their class.
+  template <class List, class Visit>
+  void Records(int since, std::string_view name, const List& /*list*/, Visit /*visit*/) {
+    Add(since, name, FieldType::Integer, 1);
   }
   [[nodiscard]] std::vector<RecordField> Take() { return std::move(m_fields); }
 

@@ -10,8 +10,12 @@
 #include <mqPostCommon/platform/stream.h>
 #include <mqPostCommon/platform/wide_string.h>
 
+namespace mqp {
+
 /// A string record holds at most this many code units; a longer text is cut when it is written.
 inline constexpr int kMaximumStringRecordLength = 1024;
+
+}  // namespace mqp
 
 /// Writes a string record. What the stream answers is not looked at.
 /// \param stream the stream, owned by the caller
