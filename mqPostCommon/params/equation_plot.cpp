@@ -14,6 +14,10 @@ namespace {
 constexpr mqChar kQuote = MQ_TEXT('"');
 constexpr int kUnknown = -1;
 
+/// Sixteen times the longest equation that a record holds. Longer than this becomes only the text
+/// of a damaged record, whose names occur in what they are replaced by and double with each.
+constexpr int kMaximumDisplayLength = 16 * kMaximumStringRecordLength;
+
 // ---------------------------------------------------------------------------------------------
 // Where a name is looked for
 
@@ -169,7 +173,8 @@ void CmqEquationPlotParam::PrepareEquationParams(const CmqResultCompsEqnVarsList
 void CmqEquationPlotParam::PrepareEquationToDisplay(int analysisType, int ignored, int meshKind,
                                                     int passOn) {
   m_strDisplayEquation = m_strEquation;
-  for (POSITION position = m_listVariables.GetHeadPosition(); position != nullptr;) {
+  POSITION position = m_listVariables.GetHeadPosition();
+  while (position != nullptr && m_strDisplayEquation.GetLength() <= mqp::kMaximumDisplayLength) {
     const CmqEquationVariable& variable = *m_listVariables.GetNext(position);
     const CString name = variable.GetComponentName(analysisType, ignored, meshKind, passOn);
     m_strDisplayEquation.Replace(variable.m_strName, mqp::kQuote + name + mqp::kQuote);
