@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <utility>
@@ -14,9 +15,11 @@ namespace {
 constexpr mqChar kQuote = MQ_TEXT('"');
 constexpr int kUnknown = -1;
 
-/// Sixteen times the longest equation that a record holds. Longer than this becomes only the text
-/// of a damaged record, whose names occur in what they are replaced by and double with each.
-constexpr int kMaximumDisplayLength = 16 * kMaximumStringRecordLength;
+/// How far a display equation grows. No name is sixteen times as long as its placeholder; only in
+/// a damaged record names occur in what they are replaced by, and the text doubles with each.
+int MaximumDisplayLength(const CString& equation) noexcept {
+  return 16 * std::max(equation.GetLength(), kMaximumStringRecordLength);
+}
 
 // ---------------------------------------------------------------------------------------------
 // Where a name is looked for
@@ -173,8 +176,9 @@ void CmqEquationPlotParam::PrepareEquationParams(const CmqResultCompsEqnVarsList
 void CmqEquationPlotParam::PrepareEquationToDisplay(int analysisType, int ignored, int meshKind,
                                                     int passOn) {
   m_strDisplayEquation = m_strEquation;
+  const int maximum = mqp::MaximumDisplayLength(m_strEquation);
   POSITION position = m_listVariables.GetHeadPosition();
-  while (position != nullptr && m_strDisplayEquation.GetLength() <= mqp::kMaximumDisplayLength) {
+  while (position != nullptr && m_strDisplayEquation.GetLength() <= maximum) {
     const CmqEquationVariable& variable = *m_listVariables.GetNext(position);
     const CString name = variable.GetComponentName(analysisType, ignored, meshKind, passOn);
     m_strDisplayEquation.Replace(variable.m_strName, mqp::kQuote + name + mqp::kQuote);

@@ -110,7 +110,7 @@ class MQPOSTCOMMON_API CmqEquationPlotParam {
   /// Makes the display equation: every placeholder becomes the name of its component in
   /// double-quote characters, in the language of the string table. The arguments are those of
   /// `CmqEquationVariable::GetComponentName`. Nothing more is replaced in a text that has grown
-  /// beyond 16,384 code units, as only those of damaged records do.
+  /// beyond sixteen times the equation, as only those of damaged records do.
   void PrepareEquationToDisplay(int analysisType, int ignored, int meshKind, int passOn);
 
   /// Writes the newest layout of the record with its variables. What the stream answers is not
