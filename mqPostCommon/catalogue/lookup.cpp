@@ -101,26 +101,15 @@ constexpr auto kCandidateIndex = MakeIndex<Candidate{kNoName, 0}, kCandidates>()
 
 constexpr int kNotFound = -1;
 constexpr int kNoResultType = 9999;
-constexpr int kKeyLength = 6;
 
 bool NameBeginsWith(NameId id, const CString& key, CString& buffer) {
+  buffer.Empty();  // a host may leave it for an unknown id
   mqpLoadString(buffer, id);
   return buffer.View().starts_with(key.View());
 }
 
 }  // namespace
 }  // namespace mqp
-
-CString mqp::MakeKey(const CString& text) {
-  CString key = text.Left(kKeyLength);
-  for (const mqChar end : {MQ_TEXT(':'), MQ_TEXT(' ')}) {
-    const int position = key.Find(end);
-    if (position > 0) {
-      key = key.Left(position);
-    }
-  }
-  return key;
-}
 
 int vekPostCommonGetComponentIndexByName(int analysisType, int resultType, int variant,
                                          CString name, int exactName) {

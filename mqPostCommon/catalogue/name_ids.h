@@ -44,10 +44,18 @@ constexpr Names From(int component, Names names) {
   return names;
 }
 
+/// The names of the components `first` to `last` of a longer sequence.
+constexpr Names Slice(int first, int last, const Names& names) {
+  Names slice;
+  for (int component = first; component <= last; ++component) {
+    slice.values.at(static_cast<std::size_t>(slice.count++)) = names.At(component);
+  }
+  return slice;
+}
+
 /// The first names of a longer sequence.
-constexpr Names First(int count, Names names) {
-  names.count = count;
-  return names;
+constexpr Names First(int count, const Names& names) {
+  return Slice(0, count - 1, names);
 }
 
 // clang-format off

@@ -34,32 +34,30 @@ struct SetRow {
 };
 
 // clang-format off
-constexpr Names kPrincipalStressNames   = Run(54597, 54599);
-constexpr Names kPrincipalStrainNames   = Ids16(50177, 50178, 50179);
-constexpr NameId kEnergyName            = 54609;
+constexpr Names kDynamicStressColumns = Slice(6, 8, kStressNames) + Ids16(kDynamicStressName) + Slice(10, 11, kStressNames);
 
 constexpr auto kSets = std::to_array<SetRow>({
-//    result              kind  case                columns                                                        the whole
-    { Result::Displacement,  0, Case::Always,       kTranslationNames,                                             50341 },
-    { Result::Displacement,  0, Case::ModeShapes,   kModeTranslationNames,                                         50341 },  // looked up by the name of a real mode
-    { Result::Displacement,  1, Case::Always,       kReactionForceNames,                                           50345 },
-    { Result::Displacement,  2, Case::Always,       kRotationNames,                                                54584 },  // has no resultant
-    { Result::Displacement,  2, Case::ModeShapes,   kModeRotationNames,                                            54584 },
-    { Result::Displacement,  3, Case::Always,       kReactionMomentNames,                                          54590 },
-    { Result::Stress,        0, Case::Always,       First(6, kStressNames),                                        kNoName },
-    { Result::Stress,        1, Case::Always,       kPrincipalStressNames + Ids16(54600, 54601, 55085),            kNoName },
-    { Result::Stress,        1, Case::Component100, kPrincipalStressNames + Ids16(kDynamicStressName, 54601, 55085), kNoName },
-    { Result::Strain,        0, Case::Always,       First(6, kStrainNames),                                        kNoName },
-    { Result::Strain,        1, Case::Always,       Ids16(54610),                                                  54610 },
-    { Result::Strain,        2, Case::Always,       kPrincipalStrainNames + Ids16(kEnergyName),                    kNoName },
-    { Result::Strain,        2, Case::TimeStudy,    Ids16(kEnergyName),                                            kNoName },
-    { Result::Strain,        4, Case::Always,       Ids16(54611),                                                  54611 },  // there is no kind 3
-    { Result::Thermal,       0, Case::Always,       First(5, kThermalNames),                                       54612 },
-    { Result::Thermal,       1, Case::Always,       Run(54617, 54619) + Ids16(50264),                              50264 },
-    { Result::Velocity,      0, Case::Always,       kVelocityNames,                                                54411 },
-    { Result::Velocity,      1, Case::Always,       kAngularVelocityNames,                                         54408 },  // has no resultant
-    { Result::Acceleration,  0, Case::Always,       kAccelerationNames,                                            54418 },
-    { Result::Acceleration,  1, Case::Always,       kAngularAccelerationNames,                                     54415 },
+//    result                 kind case                columns                                                  the whole
+    { Result::Displacement,  0, Case::Always,        kTranslationNames,                                       50341   },
+    { Result::Displacement,  0, Case::ModeShapes,    kModeTranslationNames,                                   50341   },  // looked up by the name of a real mode
+    { Result::Displacement,  1, Case::Always,        kReactionForceNames,                                     50345   },
+    { Result::Displacement,  2, Case::Always,        kRotationNames,                                          54584   },  // has no resultant
+    { Result::Displacement,  2, Case::ModeShapes,    kModeRotationNames,                                      54584   },
+    { Result::Displacement,  3, Case::Always,        kReactionMomentNames,                                    54590   },
+    { Result::Stress,        0, Case::Always,        First(6, kStressNames),                                  kNoName },
+    { Result::Stress,        1, Case::Always,        Slice(6, 11, kStressNames),                              kNoName },
+    { Result::Stress,        1, Case::Component100,  kDynamicStressColumns,                                   kNoName },
+    { Result::Strain,        0, Case::Always,        First(6, kStrainNames),                                  kNoName },
+    { Result::Strain,        1, Case::Always,        Slice(7, 7, kStrainNames),                               54610   },
+    { Result::Strain,        2, Case::Always,        Slice(9, 11, kStrainNames) + Slice(6, 6, kStrainNames),  kNoName },
+    { Result::Strain,        2, Case::TimeStudy,     Slice(6, 6, kStrainNames),                               kNoName },
+    { Result::Strain,        4, Case::Always,        Slice(8, 8, kStrainNames),                               54611   },  // there is no kind 3
+    { Result::Thermal,       0, Case::Always,        First(5, kThermalNames),                                 54612   },
+    { Result::Thermal,       1, Case::Always,        Slice(5, 8, kThermalNames),                              50264   },
+    { Result::Velocity,      0, Case::Always,        kVelocityNames,                                          54411   },
+    { Result::Velocity,      1, Case::Always,        kAngularVelocityNames,                                   54408   },  // has no resultant
+    { Result::Acceleration,  0, Case::Always,        kAccelerationNames,                                      54418   },
+    { Result::Acceleration,  1, Case::Always,        kAngularAccelerationNames,                               54415   },
 });
 
 /// The set of a fatigue result, of whatever kind: one column, named by the listed component.
@@ -82,7 +80,8 @@ bool Holds(Case when, const CVekPostListParam& list) noexcept {
   return false;
 }
 
-/// The row of a list set; null for a set that is none.
+/// The last row of a list set whose case holds: a special one stands behind the plain one. Null for
+/// a set that is none.
 const SetRow* FindSet(const CVekPostListParam& list) noexcept {
   const SetRow* found = nullptr;
   for (const SetRow& row : kSets) {
@@ -122,7 +121,7 @@ NameId WholeName(const CVekPostListParam& list) noexcept {
   return set == nullptr ? kNoName : set->whole;
 }
 
-/// Rows stand in order of result, kind and case, so that no two answer the same question.
+/// Rows stand in order of result, kind and case, the special ones behind the plain one, none twice.
 constexpr int FirstUnsortedSet() {
   for (std::size_t place = 1; place < kSets.size(); ++place) {
     const SetRow& before = kSets[place - 1];
@@ -136,11 +135,11 @@ constexpr int FirstUnsortedSet() {
 }
 static_assert(FirstUnsortedSet() == kNone);
 
-constexpr UINT kStudyTitle = 50733;
-constexpr UINT kVariantTitle = 50757;
+constexpr UINT kLeadingTitle = 50733;
+constexpr UINT kVariantLeadingTitle = 50757;
 
-/// The component column that a single equivalent stress of a Dynamic study has besides its own.
-constexpr int kEquivalentColumn = 3;
+/// The component column that a single stress 9 or 100 of a Dynamic study has besides its own.
+constexpr int kDynamicStressColumn = 3;
 constexpr int kEquivalentStress = 9;
 
 bool IsDynamicStress(const CVekPostListParam& list) noexcept {
@@ -148,7 +147,7 @@ bool IsDynamicStress(const CVekPostListParam& list) noexcept {
          list.m_nResultType == Code(Result::Stress);
 }
 
-bool HasEquivalentColumn(const CVekPostListParam& list) noexcept {
+bool HasDynamicStressColumn(const CVekPostListParam& list) noexcept {
   return IsDynamicStress(list) &&
          (list.m_nComponent == kEquivalentStress || list.m_nComponent == kDynamicStressComponent);
 }
@@ -176,18 +175,17 @@ int CVekPostListParam::GetListColCount() const noexcept {
 
 CString CVekPostListParam::GetListColTitle(int column) const {
   if (column < 0 || column >= GetListColCount()) {
-    const bool isEquivalent = m_nListSetFlag == 0 && column == mqp::kEquivalentColumn;
-    return isEquivalent ? GetComponentNameShort(column) : CString();
+    return column == mqp::kDynamicStressColumn ? GetComponentNameShort(column) : CString();
   }
   if (column == 0) {
     const bool isVariant = m_nVariant != 0 && (m_nListSetFlag == 0 || m_nTitleSwitch != 0);
-    return mqp::LoadText(isVariant ? mqp::kVariantTitle : mqp::kStudyTitle);
+    return mqp::LoadText(isVariant ? mqp::kVariantLeadingTitle : mqp::kLeadingTitle);
   }
   const bool isDynamicStressSet =
       m_nListSetFlag != 0 && m_nListSetKind == 1 && mqp::IsDynamicStress(*this);
   if (isDynamicStressSet && m_nUnitOption != 0) {
     // The titles of a spectral list are one column ahead; those of a variant are all alike.
-    return GetComponentNameShort(m_nVariant == 0 ? column : mqp::kEquivalentColumn);
+    return GetComponentNameShort(m_nVariant == 0 ? column : mqp::kDynamicStressColumn);
   }
   return GetComponentNameShort(column - 1);
 }
@@ -196,7 +194,8 @@ CString CVekPostListParam::GetComponentName(int component) const {
   if (m_nListSetFlag != 0) {
     return mqp::LoadText(mqp::ColumnName(*this, component));
   }
-  if (component == 0 || (component == mqp::kEquivalentColumn && mqp::HasEquivalentColumn(*this))) {
+  if (component == 0 ||
+      (component == mqp::kDynamicStressColumn && mqp::HasDynamicStressColumn(*this))) {
     return vekPostCommonGetComponentName(m_nAnalysisType, m_nResultType, m_nVariant, m_nComponent,
                                          0, 0);
   }

@@ -25,12 +25,15 @@ class MQPOSTCOMMON_API CVekPostListParam {
   [[nodiscard]] int GetComponentCount() const noexcept;
   /// The component columns and the leading one.
   [[nodiscard]] int GetListColCount() const noexcept;
-  /// The title of a list column.
+  /// The title of a list column: of the leading one a text that depends on the variant and the
+  /// title switch, of a component its short name. In a list of set 1 of a `Dynamic` stress with a
+  /// unit option the titles stand one column early, and with a variant all have that of
+  /// component 3. Beyond the columns it is empty, but for column 3 as in `GetComponentName`.
   /// \param column 0 for the leading one
   [[nodiscard]] CString GetListColTitle(int column) const;
 
   /// The full name of a component. Beyond the count it is empty, but for component 3 of a single
-  /// equivalent stress (component 9 or 100) of a `Dynamic` study, which has the name of that.
+  /// stress 9 or 100 of a `Dynamic` study, which has the name of that.
   [[nodiscard]] CString GetComponentName(int component) const;
   /// The first six code units of the name, cut before a colon and then before a blank where these
   /// stand behind the first position.

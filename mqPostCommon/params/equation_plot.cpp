@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <memory>
-#include <utility>
 
 #include <mqPostCommon/catalogue/codes.h>
 #include <mqPostCommon/catalogue/lookup.h>
@@ -15,10 +15,11 @@ namespace {
 constexpr mqChar kQuote = MQ_TEXT('"');
 constexpr int kUnknown = -1;
 
-/// How far a display equation grows. No name is sixteen times as long as its placeholder; only in
-/// a damaged record names occur in what they are replaced by, and the text doubles with each.
-int MaximumDisplayLength(const CString& equation) noexcept {
-  return 16 * std::max(equation.GetLength(), kMaximumStringRecordLength);
+/// How far a display equation grows. Component names are taken to be shorter than sixteen
+/// placeholders; only in a damaged record names occur in what they are replaced by, and the text
+/// doubles with each.
+std::int64_t MaximumDisplayLength(const CString& equation) noexcept {
+  return std::int64_t{16} * std::max(equation.GetLength(), kMaximumStringRecordLength);
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -91,30 +92,17 @@ CString CmqEquationVariable::GetComponentName(int analysisType, int /*ignored*/,
 }
 
 int CmqEquationVariable::WriteToStream(IStream* stream, int /*version*/) const {
-  if (stream == nullptr) {
-    return 0;
-  }
-  mqp::RecordWriter writer(*stream);
-  mqp::VisitVariable(*this, writer);
-  writer.Finish();
-  return 1;
+  return mqp::WriteRecord(stream, [this](auto& writer) { mqp::VisitVariable(*this, writer); });
 }
 
 int CmqEquationVariable::ReadFromStream(IStream* stream, int version) {
-  if (stream == nullptr || version < mqp::kFirstVersion) {
-    return 0;
-  }
-  mqp::RecordReader reader(*stream, version);
-  mqp::VisitVariable(*this, reader);
-  reader.Finish();
-  return 1;
+  return mqp::ReadRecord(stream, version, mqp::kFirstVersion,
+                         [this](auto& reader) { mqp::VisitVariable(*this, reader); });
 }
 
 std::vector<mqp::RecordField> CmqEquationVariable::GetRecordFields() {
   const CmqEquationVariable variable;
-  mqp::FieldLister lister;
-  mqp::VisitVariable(variable, lister);
-  return lister.Take();
+  return mqp::ListFields([&](auto& lister) { mqp::VisitVariable(variable, lister); });
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -176,7 +164,7 @@ void CmqEquationPlotParam::PrepareEquationParams(const CmqResultCompsEqnVarsList
 void CmqEquationPlotParam::PrepareEquationToDisplay(int analysisType, int ignored, int meshKind,
                                                     int passOn) {
   m_strDisplayEquation = m_strEquation;
-  const int maximum = mqp::MaximumDisplayLength(m_strEquation);
+  const std::int64_t maximum = mqp::MaximumDisplayLength(m_strEquation);
   POSITION position = m_listVariables.GetHeadPosition();
   while (position != nullptr && m_strDisplayEquation.GetLength() <= maximum) {
     const CmqEquationVariable& variable = *m_listVariables.GetNext(position);
@@ -186,28 +174,15 @@ void CmqEquationPlotParam::PrepareEquationToDisplay(int analysisType, int ignore
 }
 
 int CmqEquationPlotParam::WriteToStream(IStream* stream, int /*version*/) const {
-  if (stream == nullptr) {
-    return 0;
-  }
-  mqp::RecordWriter writer(*stream);
-  mqp::VisitPlot(*this, writer);
-  writer.Finish();
-  return 1;
+  return mqp::WriteRecord(stream, [this](auto& writer) { mqp::VisitPlot(*this, writer); });
 }
 
 int CmqEquationPlotParam::ReadFromStream(IStream* stream, int version) {
-  if (stream == nullptr || version < mqp::kFirstVersion) {
-    return 0;
-  }
-  mqp::RecordReader reader(*stream, version);
-  mqp::VisitPlot(*this, reader);
-  reader.Finish();
-  return 1;
+  return mqp::ReadRecord(stream, version, mqp::kFirstVersion,
+                         [this](auto& reader) { mqp::VisitPlot(*this, reader); });
 }
 
 std::vector<mqp::RecordField> CmqEquationPlotParam::GetRecordFields() {
   const CmqEquationPlotParam plot;
-  mqp::FieldLister lister;
-  mqp::VisitPlot(plot, lister);
-  return lister.Take();
+  return mqp::ListFields([&](auto& lister) { mqp::VisitPlot(plot, lister); });
 }

@@ -47,7 +47,7 @@ class MQPOSTCOMMON_API CmqEquationVariable : public CObject {
   [[nodiscard]] static std::vector<mqp::RecordField> GetRecordFields();
 
   // clang-format off
-  CString m_strName = MQ_TEXT("Variable");  ///< the placeholder, in double-quote characters
+  CString m_strName = MQ_TEXT("Variable");  ///< the placeholder; those of a plot have double-quote characters
   int     m_nResultType = 2;                ///< a `ResultType`; -1 for an unknown operand
   int     m_nComponent = 9;                 ///< 0-based component of the result; -1 for an unknown one
   double  m_dCoefficient = 1.0;             ///< factor of the operand, without a unit
@@ -65,7 +65,8 @@ class MQPOSTCOMMON_API CmqResultCompsEqnVarsList {
   virtual ~CmqResultCompsEqnVarsList();
 
   /// Looks a name up in the lists of offered names: stress, beam stress, strain, displacement,
-  /// thermal, in this order, by code unit and with case.
+  /// thermal, in this order, by code unit and with case. The catalogue is then asked for the whole
+  /// name of a beam stress, by the short key for the others.
   /// \param name       as it stands in the equation
   /// \param resultType receives the result type of the first list that has the name, or -1
   /// \return the component that `vekPostCommonGetComponentIndexByName` finds for the name without
@@ -103,22 +104,25 @@ class MQPOSTCOMMON_API CmqEquationPlotParam {
   /// placeholder, one name after the other in list order, also inside what an earlier one was
   /// replaced by. There is a new variable for each name, of result type and component -1 when
   /// nothing is known of it; it takes its coefficient while the flag is set, 1.0 when there is
-  /// none. The display equation is the one that was typed.
+  /// none. The display equation is the one that was typed. Names must have their double-quote
+  /// characters: the text would grow with each that occurs in its own placeholder.
   /// \param list read only; null changes nothing
   void PrepareEquationParams(const CmqResultCompsEqnVarsList* list);
 
   /// Makes the display equation: every placeholder becomes the name of its component in
   /// double-quote characters, in the language of the string table. The arguments are those of
   /// `CmqEquationVariable::GetComponentName`. Nothing more is replaced in a text that has grown
-  /// beyond sixteen times the equation, as only those of damaged records do.
+  /// beyond sixteen times the equation, and beyond 16,384 code units, as only those of damaged
+  /// records do.
   void PrepareEquationToDisplay(int analysisType, int ignored, int meshKind, int passOn);
 
-  /// Writes the newest layout of the record with its variables. What the stream answers is not
-  /// looked at.
+  /// Writes the newest layout of the record with its variables, of which `ReadFromStream` takes
+  /// 65,536. What the stream answers is not looked at.
   /// \param version has no effect
   /// \return 1; 0 for a null stream
   int WriteToStream(IStream* stream, int version) const;
-  /// Reads a record. The variables that it has are appended to those that the plot holds already.
+  /// Reads a record. The variables that it has are appended to those that the plot holds already,
+  /// none for a count below 1; those that the stream does not deliver have their defaults.
   /// Fields that a stream which ends early does not deliver keep their values, and so does a text
   /// that is stored empty.
   /// \param stream  positioned at the record, owned by the caller

@@ -1,5 +1,4 @@
 #include <iterator>
-#include <utility>
 
 #include <mqPostCommon/catalogue/codes.h>
 #include <mqPostCommon/catalogue/components.h>
@@ -278,22 +277,14 @@ void CmqPostGraphParam::SetDefaultOptionByPreferences(const preference* preferen
 }
 
 int CmqPostGraphParam::WriteToStream(IStream* stream) const {
-  if (stream == nullptr) {
-    return 0;
-  }
-  mqp::RecordWriter writer(*stream);
-  mqp::VisitFields(*this, writer);
-  writer.Finish();
-  return 1;
+  return mqp::WriteRecord(stream, [this](auto& writer) { mqp::VisitFields(*this, writer); });
 }
 
 int CmqPostGraphParam::ReadFromStream(IStream* stream, int version) {
-  if (stream == nullptr || version < mqp::kFirstVersion) {
+  if (mqp::ReadRecord(stream, version, mqp::kFirstVersion,
+                      [this](auto& reader) { mqp::VisitFields(*this, reader); }) == 0) {
     return 0;
   }
-  mqp::RecordReader reader(*stream, version);
-  mqp::VisitFields(*this, reader);
-  reader.Finish();
   if (version >= mqp::kYUnitFlagVersion && m_nYUnitFlag == 0 && mqp::NeedsYUnit(*this)) {
     m_nYUnitFlag = 1;
   }
@@ -306,7 +297,5 @@ int CmqPostGraphParam::ReadFromStream(IStream* stream, int version) {
 
 std::vector<mqp::RecordField> CmqPostGraphParam::GetRecordFields() {
   const CmqPostGraphParam graph;
-  mqp::FieldLister lister;
-  mqp::VisitFields(graph, lister);
-  return lister.Take();
+  return mqp::ListFields([&](auto& lister) { mqp::VisitFields(graph, lister); });
 }

@@ -19,7 +19,9 @@ class ValueArray : public CArray<TYPE> {
   ValueArray(const ValueArray& other) : CArray<TYPE>() { this->Copy(other); }
   ValueArray(ValueArray&&) noexcept = default;
   ValueArray& operator=(const ValueArray& other) {
-    this->Copy(other);
+    if (this != &other) {
+      this->Copy(other);
+    }
     return *this;
   }
   ValueArray& operator=(ValueArray&&) noexcept = default;
@@ -44,6 +46,17 @@ class StringValues : public CStringList {
   }
   StringValues& operator=(StringValues&&) noexcept = default;
   ~StringValues() = default;
+};
+
+/// A container that stays with its object: a copy starts with an empty one, and an assignment, from
+/// whatever it is, leaves the target its own.
+template <class CONTAINER>
+class NeverCopied : public CONTAINER {
+ public:
+  NeverCopied() = default;
+  NeverCopied(const NeverCopied& /*other*/) noexcept : CONTAINER() {}
+  NeverCopied& operator=(const NeverCopied& /*other*/) noexcept { return *this; }
+  ~NeverCopied() = default;
 };
 
 /// A list of pointers that owns the objects; copies own copies of them. No pointer is null. What

@@ -24,7 +24,7 @@ void KeepIfEmpty(ValueArray<TYPE>& taken, const ValueArray<TYPE>& own) {
 CmqPostDataParam::CmqPostDataParam() = default;
 CmqPostDataParam::~CmqPostDataParam() = default;
 
-CmqPostDataParam::CmqPostDataParam(const CmqPostDataParam& other) : PlotMembers(other) {}
+CmqPostDataParam::CmqPostDataParam(const CmqPostDataParam&) = default;
 
 CmqPostDataParam& CmqPostDataParam::operator=(const CmqPostDataParam& other) {
   if (this == &other) {

@@ -6,7 +6,8 @@
 
 namespace mqp {
 
-/// A homogeneous transformation, the identity to begin with; `matrix[row][column]`.
+/// A homogeneous transformation, the identity to begin with; `matrix[row][column]`, both from 0
+/// to 3.
 struct ViewMatrix {
   // clang-format off
   double m_dRows[4][4] = {{1.0, 0.0, 0.0, 0.0},

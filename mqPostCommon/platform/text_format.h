@@ -95,8 +95,8 @@ inline void AppendInteger(std::basic_string<mqChar>& out, bool negative, std::ui
   const auto end = std::to_chars(digits.begin(), digits.end(), magnitude, base).ptr;
   std::basic_string<mqChar> body;
   for (auto* digit = digits.begin(); digit != end; ++digit) {
-    const bool small = *digit >= 'a' && *digit <= 'z';
-    body += static_cast<mqChar>(upper && small ? *digit - 'a' + 'A' : *digit);
+    const bool isLower = *digit >= 'a' && *digit <= 'z';
+    body += static_cast<mqChar>(upper && isLower ? *digit - 'a' + 'A' : *digit);
   }
   if (layout.precision == 0 && magnitude == 0) {
     body.clear();
@@ -130,8 +130,8 @@ inline void AppendNumber(std::basic_string<mqChar>& out, double value, mqChar le
   const bool negative = digits.front() == '-';
   std::basic_string<mqChar> body;
   for (const char* digit = digits.begin() + (negative ? 1 : 0); digit != end; ++digit) {
-    const bool small = *digit >= 'a' && *digit <= 'z';
-    body += static_cast<mqChar>(upper && small ? *digit - 'a' + 'A' : *digit);
+    const bool isLower = *digit >= 'a' && *digit <= 'z';
+    body += static_cast<mqChar>(upper && isLower ? *digit - 'a' + 'A' : *digit);
   }
   const bool isNumber =
       !body.empty() && body.front() >= MQ_TEXT('0') && body.front() <= MQ_TEXT('9');

@@ -106,9 +106,56 @@ constexpr CodeRow kResults[] = {
     {Code(ResultType::MassProperties),    71, "MassProperties"},
 };
 
+constexpr CodeRow kUnitTypes[] = {
+    {Code(UnitType::Length),                              0, "Length"},
+    {Code(UnitType::UnitSystemName),                      1, "UnitSystemName"},
+    {Code(UnitType::Force),                               2, "Force"},
+    {Code(UnitType::Moment),                              3, "Moment"},
+    {Code(UnitType::Stress),                              4, "Stress"},
+    {Code(UnitType::Temperature),                         5, "Temperature"},
+    {Code(UnitType::TemperatureGradient),                 6, "TemperatureGradient"},
+    {Code(UnitType::HeatFlux),                            7, "HeatFlux"},
+    {Code(UnitType::Frequency),                           8, "Frequency"},
+    {Code(UnitType::Angle),                               9, "Angle"},
+    {Code(UnitType::Density),                            10, "Density"},
+    {Code(UnitType::SpecificEnergy),                     11, "SpecificEnergy"},
+    {Code(UnitType::DynamicViscosity),                   12, "DynamicViscosity"},
+    {Code(UnitType::MassFlowRate),                       13, "MassFlowRate"},
+    {Code(UnitType::Velocity),                           14, "Velocity"},
+    {Code(UnitType::VolumeFlowRate),                     15, "VolumeFlowRate"},
+    {Code(UnitType::HeatTransferCoefficient),            16, "HeatTransferCoefficient"},
+    {Code(UnitType::ThermalConductivity),                17, "ThermalConductivity"},
+    {Code(UnitType::Acceleration),                       18, "Acceleration"},
+    {Code(UnitType::Energy),                             19, "Energy"},
+    {Code(UnitType::EnergyDensity),                      20, "EnergyDensity"},
+    {Code(UnitType::StressSpectralDensity),              21, "StressSpectralDensity"},
+    {Code(UnitType::DisplacementSpectralDensity),        22, "DisplacementSpectralDensity"},
+    {Code(UnitType::VelocitySpectralDensity),            23, "VelocitySpectralDensity"},
+    {Code(UnitType::AccelerationSpectralDensity),        24, "AccelerationSpectralDensity"},
+    {Code(UnitType::MomentSpectralDensity),              25, "MomentSpectralDensity"},
+    {Code(UnitType::ForceSpectralDensity),               26, "ForceSpectralDensity"},
+    {Code(UnitType::AngularVelocity),                    27, "AngularVelocity"},
+    {Code(UnitType::AngularVelocitySpectralDensity),     28, "AngularVelocitySpectralDensity"},
+    {Code(UnitType::AngularAcceleration),                29, "AngularAcceleration"},
+    {Code(UnitType::AngularAccelerationSpectralDensity), 30, "AngularAccelerationSpectralDensity"},
+    {Code(UnitType::Mass),                               31, "Mass"},
+    {Code(UnitType::Reserved32),                         32, "Reserved32"},
+    {Code(UnitType::Reserved33),                         33, "Reserved33"},
+    {Code(UnitType::LengthSmallestFirst),                34, "LengthSmallestFirst"},
+    {Code(UnitType::HeatPower),                          35, "HeatPower"},
+    {Code(UnitType::HeatEnergy),                         36, "HeatEnergy"},
+    {Code(UnitType::Time),                               37, "Time"},
+    {Code(UnitType::MassOfProperties),                   38, "MassOfProperties"},
+    {Code(UnitType::Volume),                             39, "Volume"},
+    {Code(UnitType::Area),                               40, "Area"},
+    {Code(UnitType::None),                             9999, "None"},
+};
+
 TEST(Codes, OfStudiesAreNeverRenumbered) { ExpectCodes(kStudies); }
 
 TEST(Codes, OfResultsAreNeverRenumbered) { ExpectCodes(kResults); }
+
+TEST(Codes, OfUnitTypesAreNeverRenumbered) { ExpectCodes(kUnitTypes); }
 
 TEST(Codes, OfMeshesAndTheirFlagsLeaveOutOne) {
   constexpr CodeRow kRows[] = {
@@ -134,54 +181,6 @@ TEST(Codes, OfComponentDataTypesAndUnitSystemsCountFromZero) {
   ExpectCodes(kRows);
 }
 
-TEST(Codes, OfUnitTypesFollowTheQuantities) {
-  constexpr CodeRow kRows[] = {
-      {Code(UnitType::Length),                              0, "length"},
-      {Code(UnitType::UnitSystemName),                      1, "unit system names"},
-      {Code(UnitType::Force),                               2, "force"},
-      {Code(UnitType::Moment),                              3, "moment"},
-      {Code(UnitType::Stress),                              4, "stress, pressure"},
-      {Code(UnitType::Temperature),                         5, "temperature"},
-      {Code(UnitType::TemperatureGradient),                 6, "temperature gradient"},
-      {Code(UnitType::HeatFlux),                            7, "heat flux"},
-      {Code(UnitType::Frequency),                           8, "frequency"},
-      {Code(UnitType::Angle),                               9, "angle"},
-      {Code(UnitType::Density),                            10, "density"},
-      {Code(UnitType::SpecificEnergy),                     11, "specific energy"},
-      {Code(UnitType::DynamicViscosity),                   12, "dynamic viscosity"},
-      {Code(UnitType::MassFlowRate),                       13, "mass flow rate"},
-      {Code(UnitType::Velocity),                           14, "velocity"},
-      {Code(UnitType::VolumeFlowRate),                     15, "volume flow rate"},
-      {Code(UnitType::HeatTransferCoefficient),            16, "heat transfer coefficient"},
-      {Code(UnitType::ThermalConductivity),                17, "thermal conductivity"},
-      {Code(UnitType::Acceleration),                       18, "acceleration"},
-      {Code(UnitType::Energy),                             19, "energy"},
-      {Code(UnitType::EnergyDensity),                      20, "energy density"},
-      {Code(UnitType::StressSpectralDensity),              21, "stress spectral density"},
-      {Code(UnitType::DisplacementSpectralDensity),        22, "displacement spectral density"},
-      {Code(UnitType::VelocitySpectralDensity),            23, "velocity spectral density"},
-      {Code(UnitType::AccelerationSpectralDensity),        24, "acceleration spectral density"},
-      {Code(UnitType::MomentSpectralDensity),              25, "moment spectral density"},
-      {Code(UnitType::ForceSpectralDensity),               26, "force spectral density"},
-      {Code(UnitType::AngularVelocity),                    27, "angular velocity"},
-      {Code(UnitType::AngularVelocitySpectralDensity),     28, "angular velocity spectral density"},
-      {Code(UnitType::AngularAcceleration),                29, "angular acceleration"},
-      {Code(UnitType::AngularAccelerationSpectralDensity), 30, "angular acceleration spectral density"},
-      {Code(UnitType::Mass),                               31, "mass"},
-      {Code(UnitType::Reserved32),                         32, "reserved"},
-      {Code(UnitType::Reserved33),                         33, "reserved"},
-      {Code(UnitType::LengthSmallestFirst),                34, "length, smallest first"},
-      {Code(UnitType::HeatPower),                          35, "heat power"},
-      {Code(UnitType::HeatEnergy),                         36, "heat energy"},
-      {Code(UnitType::Time),                               37, "time"},
-      {Code(UnitType::MassOfProperties),                   38, "mass of mass properties"},
-      {Code(UnitType::Volume),                             39, "volume"},
-      {Code(UnitType::Area),                               40, "area"},
-      {Code(UnitType::None),                             9999, "no unit"},
-  };
-  ExpectCodes(kRows);
-}
-
 // clang-format on
 
 TEST(Codes, HaveOneNameForEachStudy) {
@@ -190,6 +189,10 @@ TEST(Codes, HaveOneNameForEachStudy) {
 
 TEST(Codes, HaveOneNameForEachResult) {
   EXPECT_EQ(SortedCodes(kResultTypeNames), ExpectedNames(kResults));
+}
+
+TEST(Codes, HaveOneNameForEachUnitType) {
+  EXPECT_EQ(SortedCodes(kUnitTypeNames), ExpectedNames(kUnitTypes));
 }
 
 }  // namespace

@@ -103,11 +103,13 @@ class RecordWriter {
     }
   }
   void Text(const CString& text) {
-    std::array<unsigned short, kMaximumStringRecordLength> units;
     const int count = std::min(text.GetLength(), kMaximumStringRecordLength);
-    STRING2LPUSHORT(text, units.data(), count);
+    std::array<unsigned short, kMaximumStringRecordLength> units;
+    const auto stored = std::span(units).first(static_cast<std::size_t>(count));
+    std::ranges::fill(stored, static_cast<unsigned short>(0));  // should less be copied
+    STRING2LPUSHORT(text, units.data(), kMaximumStringRecordLength);
     Store(count);
-    for (const unsigned short unit : std::span(units).first(static_cast<std::size_t>(count))) {
+    for (const unsigned short unit : stored) {
       Store(unit);
     }
   }
@@ -257,6 +259,38 @@ std::span<Value> ValuesOf(Value (&values)[Count]) noexcept {
 template <class Value, std::size_t Rows, std::size_t Columns>
 std::span<Value> ValuesOf(Value (&values)[Rows][Columns]) noexcept {
   return {&values[0][0], Rows * Columns};
+}
+
+/// Writes the record whose fields `visit` hands to a visitor; the answer of `WriteToStream`.
+template <class Visit>
+int WriteRecord(IStream* stream, Visit visit) {
+  if (stream == nullptr) {
+    return 0;
+  }
+  RecordWriter writer(*stream);
+  visit(writer);
+  writer.Finish();
+  return 1;
+}
+
+/// Reads it from a document of a version; the answer of `ReadFromStream`.
+/// \param first the first version that has the record
+template <class Visit>
+int ReadRecord(IStream* stream, int version, int first, Visit visit) {
+  if (stream == nullptr || version < first) {
+    return 0;
+  }
+  RecordReader reader(*stream, version);
+  visit(reader);
+  reader.Finish();
+  return 1;
+}
+
+template <class Visit>
+std::vector<RecordField> ListFields(Visit visit) {
+  FieldLister lister;
+  visit(lister);
+  return lister.Take();
 }
 
 }  // namespace mqp
