@@ -241,7 +241,7 @@ CmqPostDataParam CVekPostListParam::GetDataParam(int component) const {
   plot.m_nHost25[3] = m_nUnitOption;
   plot.m_nHost25[4] = m_nHost24[1];
   plot.m_nHost27[0] = m_nHost24[3];
-  plot.m_nHost27[1] = m_nHost24[4];
+  plot.m_nHost27[3] = m_nHost24[4];
   plot.m_nHost28[0] = m_nHost24[5];
   plot.m_nHost28[1] = m_nHost24[2];
   plot.m_nHost28[5] = m_nHost24[7];
