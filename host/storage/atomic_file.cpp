@@ -62,22 +62,6 @@ fs::path NameTemporary(const fs::path& target) {
   return target.parent_path() / name;
 }
 
-/// Removes the file unless it was renamed.
-class TemporaryFile {
- public:
-  explicit TemporaryFile(const fs::path& target) : m_path(NameTemporary(target)) {}
-  ~TemporaryFile() {
-    std::error_code ignored;
-    fs::remove(m_path, ignored);
-  }
-  TemporaryFile(const TemporaryFile&) = delete;
-  TemporaryFile& operator=(const TemporaryFile&) = delete;
-  [[nodiscard]] const fs::path& Path() const noexcept { return m_path; }
-
- private:
-  fs::path m_path;
-};
-
 void WriteBytes(const fs::path& file, std::span<const std::byte> bytes) {
   errno = 0;
   std::ofstream stream(file, std::ios::binary | std::ios::trunc);
@@ -90,6 +74,13 @@ void WriteBytes(const fs::path& file, std::span<const std::byte> bytes) {
 }
 
 }  // namespace
+
+TemporaryFile::TemporaryFile(const fs::path& target) : m_path(NameTemporary(target)) {}
+
+TemporaryFile::~TemporaryFile() {
+  std::error_code ignored;
+  fs::remove(m_path, ignored);
+}
 
 void WriteAtomically(const fs::path& target, std::span<const std::byte> bytes) {
   const fs::path place = fs::is_symlink(target) ? fs::canonical(target) : target;

@@ -90,7 +90,8 @@ class MQPOSTCOMMON_API CmqResultCompsEqnVarsList {
 };
 
 /// A stored equation plot: the equation with placeholders, and what each of them stands for. A
-/// value type: copies are independent of their source, assigning it to itself does nothing.
+/// value type: copies are independent of their source; assigning it to itself does nothing, moving
+/// it to itself may empty it.
 class MQPOSTCOMMON_API CmqEquationPlotParam {
  public:
   CmqEquationPlotParam();

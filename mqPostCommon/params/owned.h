@@ -55,6 +55,7 @@ class NeverCopied : public CONTAINER {
  public:
   NeverCopied() = default;
   NeverCopied(const NeverCopied& /*other*/) noexcept : CONTAINER() {}
+  // NOLINTNEXTLINE(cert-oop54-cpp): on itself it does nothing either
   NeverCopied& operator=(const NeverCopied& /*other*/) noexcept { return *this; }
   ~NeverCopied() = default;
 };

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -72,17 +73,43 @@ class CArray {
     }
     return first;
   }
-  /// Replaces the elements by those of `other`.
-  void Copy(const CArray& other) { m_elements = other.m_elements; }
+  /// Replaces the elements by copies of those of `other`.
+  void Copy(const CArray& other) { m_elements = std::vector<TYPE>(other.m_elements); }
   void InsertAt(int index, ARG_TYPE element, int count = 1) {
-    m_elements.insert(m_elements.begin() + index, Position(count), element);
+    const std::vector<TYPE> inserted(Position(count), element);
+    std::vector<TYPE> result;
+    result.reserve(m_elements.size() + inserted.size());
+    Relocate(0, Position(index), result);
+    result.insert(result.end(), inserted.begin(), inserted.end());
+    Relocate(Position(index), m_elements.size(), result);
+    m_elements = std::move(result);
   }
   void RemoveAt(int index, int count = 1) {
-    m_elements.erase(m_elements.begin() + index, m_elements.begin() + index + count);
+    std::vector<TYPE> result;
+    result.reserve(m_elements.size() - Position(count));
+    Relocate(0, Position(index), result);
+    Relocate(Position(index) + Position(count), m_elements.size(), result);
+    m_elements = std::move(result);
+  }
+  /// Puts the element of index `order[i]` at index i; `order` names every index once.
+  void Reorder(std::span<const int> order) {
+    std::vector<TYPE> result;
+    result.reserve(m_elements.size());
+    for (const int index : order) {
+      result.push_back(std::move(ElementAt(index)));
+    }
+    m_elements = std::move(result);
   }
 
  private:
   static std::size_t Position(int index) noexcept { return static_cast<std::size_t>(index); }
+
+  /// Elements move to another place as the framework moves them: nothing is assigned.
+  void Relocate(std::size_t first, std::size_t last, std::vector<TYPE>& result) {
+    for (; first < last; ++first) {
+      result.push_back(std::move(m_elements[first]));
+    }
+  }
 
   std::vector<TYPE> m_elements;
 };

@@ -1,5 +1,6 @@
 #include <climits>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -344,6 +345,81 @@ TEST(ObjectList, ObjectsAreDeletedThroughTheirBase) {
   EXPECT_EQ(alive, 0);
 }
 
+// --- moving ---
+
+TEST_F(ThreeTexts, MoveWithTheirPositionsAndLeaveAnEmptyList) {
+  CStringList taken(std::move(m_list));
+  EXPECT_EQ(Read(taken), (Expected{MQ_TEXT("a"), MQ_TEXT("b"), MQ_TEXT("c")}));
+  EXPECT_EQ(taken.GetHeadPosition(), m_a);
+  EXPECT_EQ(taken.GetTailPosition(), m_c);
+  EXPECT_EQ(Read(m_list), Expected());
+  EXPECT_EQ(m_list.GetHeadPosition(), nullptr);
+  EXPECT_EQ(m_list.GetTailPosition(), nullptr);
+
+  // The positions are those of the new list, and the old one begins anew.
+  taken.InsertAfter(m_b, MQ_TEXT("2"));
+  taken.RemoveAt(m_a);
+  m_list.AddTail(MQ_TEXT("x"));
+  EXPECT_EQ(Read(taken), (Expected{MQ_TEXT("b"), MQ_TEXT("2"), MQ_TEXT("c")}));
+  EXPECT_EQ(Read(m_list), Expected{MQ_TEXT("x")});
+}
+
+TEST_F(ThreeTexts, MoveIntoAListThatLosesWhatItHeld) {
+  for (const bool isFilled : {false, true}) {
+    CStringList source;
+    source.AddTail(MQ_TEXT("a"));
+    const POSITION last = source.AddTail(MQ_TEXT("b"));
+    CStringList target;
+    if (isFilled) {
+      target.AddTail(MQ_TEXT("x"));
+      target.AddTail(MQ_TEXT("y"));
+      target.AddTail(MQ_TEXT("z"));
+    }
+    EXPECT_EQ(&(target = std::move(source)), &target);
+    EXPECT_EQ(Read(target), (Expected{MQ_TEXT("a"), MQ_TEXT("b")}));
+    EXPECT_EQ(target.GetTailPosition(), last);
+    EXPECT_EQ(Read(source), Expected());  // NOLINT(bugprone-use-after-move): promised to be empty
+    source.AddHead(MQ_TEXT("c"));
+    EXPECT_EQ(Read(source), Expected{MQ_TEXT("c")});
+  }
+  m_list = CStringList();
+  EXPECT_EQ(Read(m_list), Expected());
+}
+
+TEST_F(ThreeTexts, StayWhenTheirListIsMovedToItself) {
+  CStringList& same = m_list;
+  m_list = std::move(same);
+  EXPECT_EQ(Read(m_list), (Expected{MQ_TEXT("a"), MQ_TEXT("b"), MQ_TEXT("c")}));
+  EXPECT_EQ(m_list.GetHeadPosition(), m_a);
+}
+
+TEST(StringList, AnEmptyListIsMovedAsWell) {
+  CStringList empty;
+  CStringList taken(std::move(empty));
+  EXPECT_EQ(Read(taken), Expected());
+  taken.AddTail(MQ_TEXT("a"));
+  EXPECT_EQ(Read(taken), Expected{MQ_TEXT("a")});
+}
+
+TEST(TypedPointerList, MovesItsPointersAndDeletesNoObject) {
+  Body one(1);
+  Body two(2);
+  Bodies source;
+  source.AddTail(&one);
+  const POSITION tail = source.AddTail(&two);
+  Bodies taken(std::move(source));
+  EXPECT_EQ(Ids(taken), (std::vector{1, 2}));
+  EXPECT_EQ(taken.GetTailPosition(), tail);
+  EXPECT_TRUE(source.IsEmpty());  // NOLINT(bugprone-use-after-move): promised to be empty
+  source.AddTail(&two);
+  source = std::move(taken);
+  EXPECT_EQ(Ids(source), (std::vector{1, 2}));
+  EXPECT_EQ(source.GetHead(), &one);
+  EXPECT_TRUE(taken.IsEmpty());  // NOLINT(bugprone-use-after-move): promised to be empty
+}
+
+static_assert(std::is_nothrow_move_constructible_v<CObList> &&
+              std::is_nothrow_move_assignable_v<CStringList>);
 static_assert(!std::is_copy_constructible_v<CObList> && !std::is_copy_assignable_v<CStringList>);
 
 }  // namespace

@@ -10,13 +10,14 @@ TEST(CommandLine, HelpSaysEverythingAndIsFine) {
   for (const std::string help : {"--help", "-h", "help"}) {
     const Outcome outcome = RunTool({help});
     EXPECT_EQ(outcome.code, 0) << help;
-    for (const char* part : {"list", "show", "find", "units", "strings", "ls", "graph", "convert",
-                             "Exit codes:", "  5  ", "NO_COLOR"}) {
+    for (const char* part :
+         {"list", "show", "find", "units", "strings", "ls", "graph", "convert", "columns",
+          "equation", "equation check", "Exit codes:", "  5  ", "NO_COLOR"}) {
       EXPECT_TRUE(Contains(outcome.out, part)) << part;
     }
   }
-  for (const std::string verb :
-       {"list", "show", "find", "units", "strings", "ls", "graph", "convert"}) {
+  for (const std::string verb : {"list", "show", "find", "columns", "units", "strings", "ls",
+                                 "graph", "equation", "convert"}) {
     const Outcome outcome = RunTool({verb, "--help"});
     EXPECT_EQ(outcome.code, 0) << verb;
     EXPECT_TRUE(Contains(outcome.out, "Usage: mqpost " + verb)) << outcome;
@@ -62,6 +63,19 @@ TEST(CommandLine, WhatCannotBeUnderstoodIsSaidWithAHint) {
       {{"graph", document + "::Graphs/Graph1", "--doc-version", "new"}, "whole number"},
       {{"graph", document + "::Graphs/Graph1", "--doc-version", "800017"},
        "from version 800018 on"},
+      {{"equation", document + "::Plots/EquationPlot1"}, "--doc-version is missing"},
+      {{"equation", document + "::Plots/EquationPlot1", "--doc-version", "890108"},
+       "documents have equation plots from version 890109 on"},
+      {{"equation", document, "--doc-version", "890110"}, "joined by \"::\""},
+      {{"equation", document + "::Plots/EquationPlot1", "--doc-version", "890110", "--study", "x"},
+       "There is no study \"x\""},
+      {{"equation", "check"}, "TEXT is required. See mqpost equation check --help"},
+      {{"equation", "check", "1"}, "--study is missing"},
+      {{"equation", "check", "1", "--study", "statik"}, "Did you mean Static?"},
+      {{"equation", "check", "1", "2", "--study", "static"}, "one argument too many: \"2\""},
+      {{"equaton"}, "There is no verb \"equaton\". Did you mean equation?"},
+      {{"columns", "static"}, "RESULT is required"},
+      {{"columns", "static", "stress", "--set", "all"}, "--set takes a whole number"},
       {{"convert", document, "--doc-version", "890110"}, "-o is missing"},
       {{"convert", document, "-o", "x.cfb"}, "--doc-version is missing"},
       {{"convert", document, "-o", "x.cfb", "--doc-version", "-1"}, "from version 800018 on"},

@@ -1,3 +1,5 @@
+#include <optional>
+
 #include <mqpost/record_view.h>
 
 #include "tool/tool_test_support.h"
@@ -5,14 +7,19 @@
 namespace mqp::test {
 namespace {
 
+using tool::RecordLayout;
 using tool::RecordView;
 
 /// 16 bytes and a text in version 10, 4 bytes more from 20 on, a text more from 30 on.
-const std::vector<RecordField> kLayout = {
-    {"numbers", FieldType::Integer, 2, 10}, {"late", FieldType::Integer, 1, 20},
-    {"real", FieldType::Double, 1, 10},     {"text", FieldType::String, 1, 10},
-    {"more", FieldType::String, 1, 30},
-};
+const RecordLayout kLayout = {{
+                                  {"numbers", FieldType::Integer, 2, 10},
+                                  {"late", FieldType::Integer, 1, 20},
+                                  {"real", FieldType::Double, 1, 10},
+                                  {"text", FieldType::String, 1, 10},
+                                  {"more", FieldType::String, 1, 30},
+                              },
+                              {},
+                              {}};
 
 // clang-format off
 const ByteString kVersion10 = Joined({}, {
@@ -72,7 +79,7 @@ TEST(RecordViewing, BytesLeftOverAreCounted) {
 }
 
 TEST(RecordViewing, ATextOfImpossibleLengthIsAFault) {
-  const std::vector<RecordField> layout = {{"text", FieldType::String, 3, 1}};
+  const RecordLayout layout = {{{"text", FieldType::String, 3, 1}}, {}, {}};
   struct Case {
     ByteString bytes;
     bool fits;
@@ -110,6 +117,113 @@ TEST(RecordViewing, TheVersionsThatFitAreFound) {
   EXPECT_EQ(thirty[0].first, 30);
   EXPECT_EQ(thirty[0].last, std::nullopt);
   EXPECT_TRUE(tool::FindFittingVersions(FirstBytes(kVersion10, 7), kLayout).empty());
+}
+
+// ---------------------------------------------------------------------------------------------
+// Records that hold others
+
+/// A text and a counted list of children: 12 bytes or more each in version 10, 4 more from 20 on.
+const RecordLayout kFamily = {
+    {{"title", FieldType::String, 1, 10}, {"number of parts", FieldType::Integer, 1, 10}},
+    {{"name", FieldType::String, 1, 10},
+     {"weight", FieldType::Double, 1, 10},
+     {"age", FieldType::Integer, 1, 20}},
+    "part"};
+
+// clang-format off
+const ByteString kTwoChildren = Joined({}, {
+    0x00, 0x00, 0x00, 0x00,                                      // ""
+    0x02, 0x00, 0x00, 0x00,                                      // 2
+    0x01, 0x00, 0x00, 0x00, 0x41, 0x00,                          // "A"
+    0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0xE0, 0xBF,              // -0.5
+    0x00, 0x00, 0x00, 0x00,                                      // ""
+    0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0xF0, 0x3F,              // 1.0
+});
+// clang-format on
+
+TEST(RecordViewing, ChildRecordsFollowTheirCounter) {
+  const RecordView record = tool::ViewRecord(kTwoChildren, kFamily, 10);
+  ASSERT_TRUE(record.Fits());
+  std::vector<std::string> names;
+  for (const tool::FieldView& field : record.fields) {
+    names.push_back(field.name);
+  }
+  EXPECT_EQ(names, (std::vector<std::string>{"title", "number of parts", "part 0: name",
+                                             "part 0: weight", "part 1: name", "part 1: weight"}));
+  EXPECT_EQ(record.fields[1].child, std::nullopt);
+  EXPECT_EQ(record.fields[3].child, 0U);
+  EXPECT_EQ(record.fields[3].field.name, "weight");
+  EXPECT_EQ(record.fields[3].values[0].offset, 14U);
+  EXPECT_EQ(std::get<double>(record.fields[3].values[0].value), -0.5);
+  EXPECT_EQ(record.fields[5].child, 1U);
+  EXPECT_EQ(record.fields[5].values[0].offset, 26U);
+  EXPECT_EQ(tool::FindField(record, "part 1: name"), &record.fields[4]);
+  EXPECT_EQ(tool::FindField(record, "name"), nullptr);
+}
+
+TEST(RecordViewing, ChildRecordsHaveTheFieldsOfTheVersion) {
+  const ByteString bytes = Joined({}, {0, 0, 0, 0, 1, 0, 0, 0,              // one child
+                                       0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0,  // without a name
+                                       7, 0, 0, 0});
+  const RecordView late = tool::ViewRecord(bytes, kFamily, 20);
+  ASSERT_TRUE(late.Fits());
+  EXPECT_EQ(std::get<int>(late.fields.back().values[0].value), 7);
+  EXPECT_EQ(tool::ViewRecord(bytes, kFamily, 19).leftover, 4U);
+  const auto ranges = tool::FindFittingVersions(bytes, kFamily);
+  ASSERT_EQ(ranges.size(), 1U);
+  EXPECT_EQ(ranges[0].first, 20);
+  EXPECT_TRUE(tool::ViewRecord(kTwoChildren, kFamily, 9).fields.empty());
+}
+
+TEST(RecordViewing, ChildrenOfEveryShorterLengthHaveAFault) {
+  for (std::size_t length = 0; length < kTwoChildren.size(); ++length) {
+    const ByteString bytes = FirstBytes(kTwoChildren, length);
+    const RecordView record = tool::ViewRecord(bytes, kFamily, 10);
+    EXPECT_FALSE(record.Fits()) << length;
+    ASSERT_TRUE(record.fault) << length;
+    EXPECT_LE(record.fault->offset, length);
+  }
+}
+
+TEST(RecordViewing, ACounterThatCannotBeTrueIsAFaultOfItsOwn) {
+  struct Case {
+    std::initializer_list<int> counter;
+    std::size_t bytesBehind;
+    const char* what;  ///< null for none
+  };
+  const Case cases[] = {
+      {{0, 0, 0, 0}, 0, nullptr},
+      {{1, 0, 0, 0}, 12, nullptr},
+      {{1, 0, 0, 0},
+       11,
+       "the record claims 1 parts of at least 12 bytes each, and only 11 bytes are left"},
+      {{1, 0, 0, 0},
+       0,
+       "the record claims 1 parts of at least 12 bytes each, and the record ends there"},
+      {{0xFF, 0xFF, 0xFF, 0xFF}, 12, "the record claims -1 parts, and 0 to 65536 are possible"},
+      {{0x00, 0x00, 0x01, 0x00}, 12 * 65536, nullptr},
+      {{0x01, 0x00, 0x01, 0x00},
+       12 * 65537,
+       "the record claims 65537 parts, and 0 to 65536 are possible"},
+      {{0xFF, 0xFF, 0xFF, 0x7F},
+       12,
+       "the record claims 2147483647 parts, and 0 to 65536 are possible"},
+  };
+  for (const Case& row : cases) {
+    ByteString bytes = Joined(Joined({}, {0, 0, 0, 0}), row.counter);
+    bytes.resize(bytes.size() + row.bytesBehind, std::byte{0});
+    const RecordView record = tool::ViewRecord(bytes, kFamily, 10);
+    EXPECT_EQ(record.Fits(), row.what == nullptr) << row.bytesBehind;
+    if (row.what != nullptr) {
+      ASSERT_TRUE(record.fault);
+      EXPECT_EQ(record.fault->field, "number of parts");
+      EXPECT_EQ(record.fault->offset, 4U);
+      EXPECT_EQ(record.fault->what, row.what);
+      // The counter itself is shown, and nothing behind it.
+      EXPECT_EQ(record.fields.size(), 2U);
+      EXPECT_EQ(record.end, 8U);
+    }
+  }
 }
 
 }  // namespace

@@ -88,6 +88,33 @@ TEST(Screen, NoLineIsWiderThanTheTerminal) {
   }
 }
 
+TEST(Screen, EquationsAndColumnsFitANarrowTerminal) {
+  const std::string plot = Utf8(Example(890110)) + "::Plots/EquationPlot1";
+  const std::vector<std::vector<std::string>> commands = {
+      {"equation", plot, "--doc-version", "890110"},
+      {"equation", plot, "--doc-version", "890110", "--lang", "de", "--study", "frequency"},
+      {"equation", plot, "--doc-version", "890110", "--bytes"},
+      {"equation", "check", "--study", "static",
+       "(\"SX: stress along X\"+\"FRMAG: reaction force magnitude\")/\"WD: strain energy "
+       "density\"-2*\"quite another name\""},
+      {"columns", "frequency", "displacement", "--set", "0", "--lang", "de"},
+      {"columns", "dynamic", "stress", "--set", "1", "--unit-option", "2", "--variant", "1"},
+  };
+  for (const auto& command : commands) {
+    for (const int width : {60, 80, 120}) {
+      std::istringstream lines(RunTool(command, Terminal(width)).out);
+      std::string heading;
+      std::getline(lines, heading);  // names the document, whose path may be long
+      int count = 0;
+      for (std::string line; std::getline(lines, line); ++count) {
+        EXPECT_LE(tool::CountColumns(line), width) << json(command).dump() << ": " << line;
+        EXPECT_FALSE(line.ends_with(' ')) << line;
+      }
+      EXPECT_GT(count, 3) << json(command).dump();
+    }
+  }
+}
+
 TEST(Screen, APipeHasNoWidth) {
   const Outcome outcome = RunTool({"show", "static", "stress"});
   EXPECT_TRUE(Contains(outcome.out,

@@ -128,10 +128,24 @@ inline ByteString NewestRecord() {
   return host::CompoundDocument(Example(890110)).ReadStream("Graphs/Graph1");
 }
 
-inline void WriteGraphDocument(const fs::path& file, const ByteString& record) {
+inline void WriteDocument(const fs::path& file, const std::string& stream,
+                          const ByteString& record) {
   host::CompoundDocumentWriter writer(file);
-  writer.AddStream("Graphs/Graph1", record);
+  writer.AddStream(stream, record);
   writer.Commit();
+}
+
+inline void WriteGraphDocument(const fs::path& file, const ByteString& record) {
+  WriteDocument(file, "Graphs/Graph1", record);
+}
+
+/// The equation plot of the newest example: 200 bytes, the number of its variables at byte 112.
+inline ByteString EquationRecord() {
+  return host::CompoundDocument(Example(890110)).ReadStream("Plots/EquationPlot1");
+}
+
+inline void WriteEquationDocument(const fs::path& file, const ByteString& record) {
+  WriteDocument(file, "Plots/EquationPlot1", record);
 }
 
 inline ByteString FirstBytes(const ByteString& bytes, std::size_t count) {

@@ -45,6 +45,22 @@ inline std::string ComponentName(int study, int result, int component,
                                             options.alternateNames));
 }
 
+/// Shows the actual frequencies while it lives.
+class FrequencyDisplay {
+ public:
+  explicit FrequencyDisplay(bool isActual) : m_before(vekPostCommonGetActualFreqDispFlag()) {
+    vekPostCommonSetActualFreqDispFlag(isActual ? 1 : 0);
+  }
+  ~FrequencyDisplay() { vekPostCommonSetActualFreqDispFlag(m_before); }
+  FrequencyDisplay(const FrequencyDisplay&) = delete;
+  FrequencyDisplay& operator=(const FrequencyDisplay&) = delete;
+
+ private:
+  int m_before;
+};
+
+inline constexpr const char* kMeshHelp = "for the names: solid, shell, mixed or beam";
+
 /// Components can lie beyond the count; none that has a name or a unit lies beyond this one.
 inline constexpr int kLastComponent = 100;
 

@@ -132,7 +132,7 @@ std::vector<std::string> FindNearest(std::string_view word, const std::vector<st
   }
   std::vector<std::string> nearest;
   for (const auto& [distance, known] : byDistance) {
-    if (nearest.size() < 3) {
+    if (nearest.size() < 3 && std::ranges::find(nearest, known) == nearest.end()) {
       nearest.push_back(known);
     }
   }

@@ -1,7 +1,7 @@
+#include <algorithm>
 #include <fstream>
 #include <map>
 #include <ostream>
-#include <random>
 #include <system_error>
 #include <utility>
 
@@ -9,8 +9,10 @@
 #include <storage/compound_document.h>
 
 #include "command_line.h"
-#include "graph_record.h"
+#include "document_stream.h"
 #include "json_output.h"
+#include "record_output.h"
+#include "stored_record.h"
 #include "table.h"
 #include "text.h"
 #include "verbs.h"
@@ -28,27 +30,7 @@ struct Job {
 
 struct NamedRecord {
   std::string stream;
-  GraphRecord record;
-};
-
-/// The new document before it has been checked, beside its target. Removed in the end.
-class Draft {
- public:
-  explicit Draft(const fs::path& target) {
-    std::random_device random;
-    m_path = target;
-    m_path += "." + std::to_string(random()) + ".draft";
-  }
-  ~Draft() {
-    std::error_code ignored;
-    fs::remove(m_path, ignored);
-  }
-  Draft(const Draft&) = delete;
-  Draft& operator=(const Draft&) = delete;
-  [[nodiscard]] const fs::path& Path() const noexcept { return m_path; }
-
- private:
-  fs::path m_path;
+  StoredRecord record;
 };
 
 void CheckTarget(const Job& job, bool isForced) {
@@ -73,9 +55,10 @@ void CheckTarget(const Job& job, bool isForced) {
 std::vector<NamedRecord> ReadRecords(const Job& job, const host::CompoundDocument& document) {
   std::vector<NamedRecord> records;
   for (const host::DocumentEntry& entry : document.Entries()) {
-    if (!entry.isStorage && entry.path.starts_with(kGraphFolder)) {
-      records.push_back({entry.path, GraphRecord(job.source + " > " + Printable(entry.path),
-                                                 document.ReadStream(entry.path), job.version)});
+    const RecordKind* kind = entry.isStorage ? nullptr : FindKind(entry.path);
+    if (kind != nullptr) {
+      records.push_back({entry.path, StoredRecord(*kind, ShowStreamName({job.source, entry.path}),
+                                                  document.ReadStream(entry.path), job.version)});
     }
   }
   return records;
@@ -115,9 +98,9 @@ std::map<std::string, std::vector<std::byte>> ExpectStreams(
   return streams;
 }
 
-/// Whether the library reads from new bytes the graph that it wrote into them.
-bool ReadsBack(const std::vector<std::byte>& bytes) {
-  const GraphRecord record({}, bytes, kNewestRecordVersion);
+/// Whether the library reads from new bytes what it wrote into them.
+bool ReadsBack(const RecordKind& kind, const std::vector<std::byte>& bytes) {
+  const StoredRecord record(kind, {}, bytes, kNewestRecordVersion);
   return !record.Check() && record.NewBytes() == bytes;
 }
 
@@ -130,7 +113,7 @@ void Verify(const host::CompoundDocument& source, const fs::path& draft,
     isSame = isSame && written.ReadStream(path) == bytes;
   }
   for (const NamedRecord& named : records) {
-    isSame = isSame && ReadsBack(written.ReadStream(named.stream));
+    isSame = isSame && ReadsBack(named.record.Kind(), written.ReadStream(named.stream));
   }
   if (!isSame) {
     throw Problem(ExitCode::FileTrouble,
@@ -155,7 +138,7 @@ std::vector<std::byte> ReadFile(const fs::path& file) {
 void WriteDocument(const Job& job, const host::CompoundDocument& source,
                    const std::vector<NamedRecord>& records) {
   const fs::path target = PathOf(job.target);
-  const Draft draft(target);
+  const host::TemporaryFile draft(target);
   std::map<std::string, std::vector<std::byte>> replacements;
   for (const NamedRecord& named : records) {
     replacements[named.stream] = named.record.NewBytes();
@@ -182,7 +165,7 @@ void WriteDocument(const Job& job, const host::CompoundDocument& source,
 std::vector<std::string> KeptStreams(const host::CompoundDocument& document) {
   std::vector<std::string> kept;
   for (const host::DocumentEntry& entry : document.Entries()) {
-    if (!entry.isStorage && !entry.path.starts_with(kGraphFolder)) {
+    if (!entry.isStorage && FindKind(entry.path) == nullptr) {
       kept.push_back(entry.path);
     }
   }
@@ -190,22 +173,33 @@ std::vector<std::string> KeptStreams(const host::CompoundDocument& document) {
 }
 
 void PrintRecord(Session& session, const NamedRecord& named) {
-  const GraphRecord& record = named.record;
+  const StoredRecord& record = named.record;
   session.out << "  " << Printable(named.stream) << ": " << record.StoredBytes().size() << " -> "
               << record.NewBytes().size() << " bytes\n";
   std::vector<std::string> defaulted;
   for (const FieldView* field : record.Defaulted()) {
-    defaulted.emplace_back(field->field.name);
+    defaulted.push_back(field->name);
   }
   std::vector<Fact> facts;
   if (!defaulted.empty()) {
     facts.emplace_back("    defaulted", Join(defaulted, ", "));
   }
   for (const Correction& correction : record.Corrections()) {
-    facts.emplace_back("    corrected", correction.name + ": " + ShowValue(correction.stored, 32) +
-                                            " -> " + ShowValue(correction.read, 32));
+    facts.emplace_back("    corrected", ShowCorrection(correction));
   }
   PrintFacts(session, facts);
+}
+
+/// "2 graphs", "2 graphs, 1 equation plot"
+std::string CountRecords(const std::vector<NamedRecord>& records) {
+  const auto countOf = [&records](const RecordKind& kind) {
+    const auto count = std::ranges::count_if(
+        records, [&kind](const NamedRecord& named) { return &named.record.Kind() == &kind; });
+    return static_cast<std::size_t>(count);
+  };
+  const std::size_t plots = countOf(EquationPlotKind());
+  return CountOf(countOf(GraphKind()), GraphKind()) +
+         (plots == 0 ? "" : ", " + CountOf(plots, EquationPlotKind()));
 }
 
 void PrintReport(Session& session, const Job& job, const host::CompoundDocument& document,
@@ -219,7 +213,7 @@ void PrintReport(Session& session, const Job& job, const host::CompoundDocument&
   for (const std::string& stream : KeptStreams(document)) {
     session.out << "  " << Printable(stream) << ": kept\n";
   }
-  session.out << "Written and read back: " << records.size() << " graphs.\n";
+  session.out << "Written and read back: " << CountRecords(records) << ".\n";
 }
 
 Json ReportToJson(const Job& job, const host::CompoundDocument& document,
@@ -232,12 +226,13 @@ Json ReportToJson(const Job& job, const host::CompoundDocument& document,
   json["records"] = Json::array();
   for (const NamedRecord& named : records) {
     Json row{{"stream", named.stream},
+             {"kind", named.record.Kind().name},
              {"length", named.record.StoredBytes().size()},
              {"outputLength", named.record.NewBytes().size()},
              {"defaulted", Json::object()},
              {"corrected", CorrectionsToJson(named.record)}};
     for (const FieldView* field : named.record.Defaulted()) {
-      row["defaulted"][std::string(field->field.name)] = FieldToJson(*field);
+      row["defaulted"][field->name] = FieldToJson(*field);
     }
     json["records"].push_back(std::move(row));
   }
@@ -255,10 +250,12 @@ ExitCode RunConvert(Session& session) {
   bool isJson = false;
   CommandLine line(
       session, "convert",
-      "Copies a document with its graphs, the streams under Graphs/, in the newest\n"
-      "layout; other streams are kept. Says of each graph which fields were given\n"
-      "their defaults and which values were corrected. A damaged record ends it before\n"
-      "anything is written; the new document is read back before success is reported.",
+      "Copies a document with its records in the newest layout: the graphs, which are\n"
+      "the streams under Graphs/, and the equation plots, which are those under Plots/\n"
+      "whose names begin with EquationPlot. Other streams are kept. Says of each record\n"
+      "which fields were given their defaults and which values were corrected. A damaged\n"
+      "record ends it before anything is written; the new document is read back before\n"
+      "success is reported.",
       "mqpost convert old.cfb -o new.cfb --doc-version 800018");
   line.Positional("DOC", job.source, "the document to read; it is never changed");
   line.Text("-o,--output", target, "the document to write", "NEW");
@@ -272,7 +269,7 @@ ExitCode RunConvert(Session& session) {
     throw Problem(ExitCode::Usage, "-o is missing: name the document to write, as in -o new.cfb.");
   }
   job.target = *target;
-  job.version = RequireVersion(version);
+  job.version = RequireVersion(version, GraphKind());
   CheckTarget(job, isForced);
   const host::CompoundDocument document(PathOf(job.source));
   const std::vector<NamedRecord> records = ReadRecords(job, document);
@@ -284,7 +281,7 @@ ExitCode RunConvert(Session& session) {
     PrintReport(session, job, document, records);
   }
   if (records.empty()) {
-    session.err << "note: the document has no graphs, it was copied\n";
+    session.err << "note: the document has no graphs and no equation plots, it was copied\n";
   }
   return ExitCode::Fine;
 }

@@ -1,10 +1,11 @@
-#include <algorithm>
 #include <ostream>
+#include <utility>
 
 #include "catalogue_view.h"
 #include "command_line.h"
 #include "json_output.h"
 #include "language.h"
+#include "name_hints.h"
 #include "table.h"
 #include "verbs.h"
 
@@ -22,55 +23,16 @@ struct Question {
   std::string name;
 };
 
-/// The symbol in front of the colon, by which names are told apart; all of a name without one.
-std::string SymbolOf(const std::string& name) {
-  return name.substr(0, name.find_first_of(": "));
-}
-
-bool Contains(std::string_view name, std::string_view part) {
-  const auto isSame = [](char left, char right) {
-    constexpr char kCaseBit = 0x20;
-    return left == right ||
-           ((left ^ right) == kCaseBit && (left | kCaseBit) >= 'a' && (left | kCaseBit) <= 'z');
-  };
-  return !std::ranges::search(name, part, isSame).empty();
-}
-
-/// The first names that hold a part of a name: its description, or its symbol in another case.
-std::vector<std::string> FindContaining(const std::vector<std::string>& names,
-                                        std::string_view part) {
-  constexpr std::size_t kShortestPart = 2;
-  std::vector<std::string> found;
-  for (const std::string& name : names) {
-    if (part.size() >= kShortestPart && found.size() < 3 && Contains(name, part)) {
-      found.push_back(Quoted(name));
-    }
-  }
-  return found;
-}
-
 /// The names of the result that look like the one asked for.
-std::vector<std::string> FindNearestNames(const Question& question) {
+std::vector<std::string> FindNearestOf(const Question& question) {
   std::vector<std::string> names;
-  std::vector<std::string> symbols;
   for (int component = 0; component <= kLastComponent; ++component) {
-    const std::string name = ComponentName(question.study, question.result, component);
+    std::string name = ComponentName(question.study, question.result, component);
     if (!name.empty()) {
-      names.push_back(name);
-      symbols.push_back(SymbolOf(name));
+      names.push_back(std::move(name));
     }
   }
-  std::vector<std::string> nearest = FindContaining(names, question.name);
-  for (const std::string& symbol : FindNearest(SymbolOf(question.name), symbols)) {
-    for (std::size_t index = 0; index < names.size() && nearest.size() < 3; ++index) {
-      const std::string name = Quoted(names[index]);
-      if (symbols[index] == symbol && std::ranges::find(nearest, name) == nearest.end()) {
-        nearest.push_back(name);
-        break;
-      }
-    }
-  }
-  return nearest;
+  return FindNearestNames(question.name, names);
 }
 
 void Answer(Session& session, const Question& question, int component, int result) {
@@ -134,7 +96,7 @@ ExitCode RunFind(Session& session) {
   }
   session.err << "mqpost: No component of " << ShowCode(Results(), question.result)
               << " in a study " << ShowCode(Studies(), question.study) << " is called "
-              << Quoted(question.name) << "." << AskWhether(FindNearestNames(question)) << '\n';
+              << Quoted(question.name) << "." << AskWhether(FindNearestOf(question)) << '\n';
   return ExitCode::Finding;
 }
 

@@ -27,6 +27,8 @@ struct ValueView {
 
 struct FieldView {
   RecordField field;
+  std::string name;                  ///< in a child record with that in front: "variable 0: name"
+  std::optional<std::size_t> child;  ///< which child record has the field
   std::vector<ValueView> values;
 };
 
@@ -36,6 +38,18 @@ struct RecordFault {
   std::size_t offset;
   std::string what;
 };
+
+/// The fields of a kind of record, in order.
+struct RecordLayout {
+  std::vector<RecordField> fields;
+  /// Those of each child record, when there are any: then the last one of `fields` is an integer
+  /// that counts the children, and these follow it.
+  std::vector<RecordField> childFields;
+  std::string_view childName;  ///< "variable"
+};
+
+/// A record holds at most this many children.
+inline constexpr int kMaximumChildCount = 65536;
 
 /// A record of one version as far as it can be decoded. It looks into the bytes it was made from
 /// and must not outlive them.
@@ -48,7 +62,8 @@ struct RecordView {
   [[nodiscard]] bool Fits() const noexcept { return !fault && leftover == 0; }
 };
 
-RecordView ViewRecord(Bytes bytes, const std::vector<RecordField>& layout, int version);
+/// The memory that this takes is a multiple of the bytes, whatever a count in them claims.
+RecordView ViewRecord(Bytes bytes, const RecordLayout& layout, int version);
 
 /// The field of that name, or null.
 const FieldView* FindField(const RecordView& record, std::string_view name);
@@ -60,16 +75,16 @@ struct VersionRange {
 };
 
 /// Those whose layout the bytes fit exactly.
-std::vector<VersionRange> FindFittingVersions(Bytes bytes, const std::vector<RecordField>& layout);
+std::vector<VersionRange> FindFittingVersions(Bytes bytes, const RecordLayout& layout);
 
-int FirstVersion(const std::vector<RecordField>& layout);
+int FirstVersion(const RecordLayout& layout);
 
 /// For people; a text in quotation marks, cut to `columns` when these are above 0.
 std::string ShowValue(const StoredValue& value, int columns);
 std::string ShowValues(const FieldView& field, int columns);
 
 /// "name", or "name [2]" for one of several values.
-std::string NameValue(const RecordField& field, std::size_t index);
+std::string NameValue(const FieldView& field, std::size_t index);
 
 std::string_view NameType(FieldType type);
 

@@ -23,14 +23,17 @@ struct Verb {
 
 // clang-format off
 constexpr auto kVerbs = std::to_array<Verb>({
-    {"list",    "[STUDY]",                               "kinds of study and their results",                RunList},
-    {"show",    "STUDY RESULT",                          "the components of a result",                      RunShow},
-    {"find",    "STUDY RESULT NAME",                     "the component that a name stands for",            RunFind},
-    {"units",   "[TYPE]",                                "unit types with their units and defaults",        RunUnits},
-    {"strings", "[ID...]",                               "the string table and its translation",            RunStrings},
-    {"ls",      "DOC",                                   "streams and storages of a document",              RunLs},
-    {"graph",   "DOC::STREAM --doc-version N",           "a stored graph as a person reads it",             RunGraph},
-    {"convert", "DOC -o NEW --doc-version N",            "a document with its graphs in the newest layout", RunConvert},
+    {"list",     "[STUDY]",                     "kinds of study and their results",         RunList},
+    {"show",     "STUDY RESULT",                "the components of a result",               RunShow},
+    {"find",     "STUDY RESULT NAME",           "the component that a name stands for",     RunFind},
+    {"columns",  "STUDY RESULT [--set N]",      "the columns of a result list",             RunColumns},
+    {"units",    "[TYPE]",                      "unit types with their units and defaults", RunUnits},
+    {"strings",  "[ID...]",                     "the string table and its translation",     RunStrings},
+    {"ls",       "DOC",                         "streams and storages of a document",       RunLs},
+    {"graph",    "DOC::STREAM --doc-version N", "a stored graph as a person reads it",      RunGraph},
+    {"equation", "DOC::STREAM --doc-version N", "a stored equation plot likewise",          RunEquation},
+    {"equation", "check TEXT --study STUDY",    "what an equation is stored as",            RunEquation},
+    {"convert",  "DOC -o NEW --doc-version N",  "a document in the newest layout",          RunConvert},
 });
 // clang-format on
 
@@ -41,12 +44,14 @@ STUDY, RESULT and TYPE are names in any letter case, or integer codes.
 Examples:
   mqpost show static stress --units ips
   mqpost graph study.cfb::Graphs/Graph1 --doc-version 890110 --bytes
+  mqpost equation study.cfb::Plots/EquationPlot1 --doc-version 890110
   mqpost convert old.cfb -o new.cfb --doc-version 800018
 
 Exit codes:
   0  fine
-  1  it ran and came to a finding: no such name (find), no such text (strings),
-     texts without a translation (strings --missing)
+  1  it ran and came to a finding: no such name (find, equation check), no such
+     columns (columns), no such text (strings), texts without a translation
+     (strings --missing)
   2  the command line cannot be understood or carried out
   3  a file or record is damaged, or not what it should be
   4  a record holds more than this version knows
@@ -57,12 +62,12 @@ used on a terminal only, unless NO_COLOR is set or TERM is "dumb".
 )";
 
 void PrintHelp(std::ostream& out) {
-  out << "mqpost: looks into the result catalogue and the graphs of study documents\n\n"
+  out << "mqpost: looks into the result catalogue and the records of study documents\n\n"
          "Usage: mqpost VERB [ARGUMENTS] [OPTIONS]\n"
          "       mqpost --help | --version\n\nVerbs:\n";
   for (const Verb& verb : kVerbs) {
     const std::string begin = "  " + std::string(verb.name) + " " + std::string(verb.arguments);
-    out << begin << std::string(begin.size() < 39 ? 39 - begin.size() : 1, ' ') << verb.summary
+    out << begin << std::string(begin.size() < 40 ? 40 - begin.size() : 1, ' ') << verb.summary
         << '\n';
   }
   out << kHelpEnd;

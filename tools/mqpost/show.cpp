@@ -36,20 +36,6 @@ struct ComponentCard {
   bool hasReference;
 };
 
-/// Shows the actual frequencies while it lives.
-class FrequencyDisplay {
- public:
-  explicit FrequencyDisplay(bool isActual) : m_before(vekPostCommonGetActualFreqDispFlag()) {
-    vekPostCommonSetActualFreqDispFlag(isActual ? 1 : 0);
-  }
-  ~FrequencyDisplay() { vekPostCommonSetActualFreqDispFlag(m_before); }
-  FrequencyDisplay(const FrequencyDisplay&) = delete;
-  FrequencyDisplay& operator=(const FrequencyDisplay&) = delete;
-
- private:
-  int m_before;
-};
-
 std::vector<int> FindMembers(const Subject& subject, int component) {
   constexpr int kUntouched = -1;
   std::vector<int> members(3, kUntouched);

@@ -9,10 +9,13 @@ namespace mqp::tool {
 ExitCode RunList(Session& session);
 ExitCode RunShow(Session& session);
 ExitCode RunFind(Session& session);
+ExitCode RunColumns(Session& session);
 ExitCode RunUnits(Session& session);
 ExitCode RunStrings(Session& session);
 ExitCode RunLs(Session& session);
 ExitCode RunGraph(Session& session);
+ExitCode RunEquation(Session& session);
+ExitCode RunEquationCheck(Session& session);
 ExitCode RunConvert(Session& session);
 
 }  // namespace mqp::tool
