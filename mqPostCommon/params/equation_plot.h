@@ -103,10 +103,11 @@ class MQPOSTCOMMON_API CmqEquationPlotParam {
 
   /// Takes an equation over from the editor: every occurrence of each variable name becomes its
   /// placeholder, one name after the other in list order, also inside what an earlier one was
-  /// replaced by. There is a new variable for each name, of result type and component -1 when
-  /// nothing is known of it; it takes its coefficient while the flag is set, 1.0 when there is
-  /// none. The display equation is the one that was typed. Names must have their double-quote
-  /// characters: the text would grow with each that occurs in its own placeholder.
+  /// replaced by. In place of the variables that the plot held there is one for each name, of
+  /// result type and component -1 when nothing is known of it; it takes its coefficient while the
+  /// flag is set, 1.0 when there is none. The display equation is the one that was typed. Names
+  /// must have their double-quote characters: the text would grow with each that occurs in its own
+  /// placeholder.
   /// \param list read only; null changes nothing
   void PrepareEquationParams(const CmqResultCompsEqnVarsList* list);
 

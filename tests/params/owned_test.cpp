@@ -86,14 +86,14 @@ TEST(StringValues, AMoveTakesTheStringsAndTheirPositions) {
   StringValues taken(std::move(source));
   EXPECT_EQ(taken.GetHeadPosition(), head);
   EXPECT_EQ(Read(taken), kAbc);
-  EXPECT_EQ(Read(source), Texts());  // NOLINT(bugprone-use-after-move): promised to be empty
+  EXPECT_EQ(Read(source), Texts());  // promised of a list that was moved
 
   StringValues target;
   Add(target, kXy);
   target = std::move(taken);
   EXPECT_EQ(target.GetHeadPosition(), head);
   EXPECT_EQ(Read(target), kAbc);
-  EXPECT_EQ(Read(taken), Texts());  // NOLINT(bugprone-use-after-move): promised to be empty
+  EXPECT_EQ(Read(taken), Texts());  // promised of a list that was moved
   Add(taken, kXy);
   EXPECT_EQ(Read(taken), kXy);
   EXPECT_EQ(Read(target), kAbc);
@@ -275,13 +275,13 @@ TEST(OwnedList, AMoveTakesTheObjectsAndDeletesThoseOfTheTarget) {
     const Objects objects = ObjectsOf(source);
     Bodies taken(std::move(source));
     EXPECT_EQ(ObjectsOf(taken), objects);
-    EXPECT_TRUE(source.IsEmpty());  // NOLINT(bugprone-use-after-move): promised to be empty
+    EXPECT_TRUE(source.IsEmpty());  // promised of a list that was moved
 
     Bodies target;
     Add(target, {7, 8, 9}, alive);
     target = std::move(taken);
     EXPECT_EQ(ObjectsOf(target), objects);
-    EXPECT_TRUE(taken.IsEmpty());  // NOLINT(bugprone-use-after-move): promised to be empty
+    EXPECT_TRUE(taken.IsEmpty());  // promised of a list that was moved
     EXPECT_EQ(alive, 2);
     Add(taken, {3}, alive);
     EXPECT_EQ(Ids(taken), std::vector{3});
@@ -314,8 +314,7 @@ TEST(OwnedList, WhatIsRemovedIsTheCallers) {
 TEST(OwnedList, RemoveAllForgetsTheObjectsAndDeleteAllDeletesThem) {
   int alive = 0;
   Bodies list;
-  Add(list, {1}, alive);
-  const std::unique_ptr<Body> forgotten(list.GetHead());
+  const std::unique_ptr<Body> forgotten(&list.Append(std::make_unique<Body>(1, alive)));
   list.RemoveAll();
   EXPECT_EQ(alive, 1);
   EXPECT_TRUE(list.IsEmpty());

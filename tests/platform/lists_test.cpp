@@ -378,7 +378,7 @@ TEST_F(ThreeTexts, MoveIntoAListThatLosesWhatItHeld) {
     EXPECT_EQ(&(target = std::move(source)), &target);
     EXPECT_EQ(Read(target), (Expected{MQ_TEXT("a"), MQ_TEXT("b")}));
     EXPECT_EQ(target.GetTailPosition(), last);
-    EXPECT_EQ(Read(source), Expected());  // NOLINT(bugprone-use-after-move): promised to be empty
+    EXPECT_EQ(Read(source), Expected());  // promised of a list that was moved
     source.AddHead(MQ_TEXT("c"));
     EXPECT_EQ(Read(source), Expected{MQ_TEXT("c")});
   }
@@ -410,12 +410,12 @@ TEST(TypedPointerList, MovesItsPointersAndDeletesNoObject) {
   Bodies taken(std::move(source));
   EXPECT_EQ(Ids(taken), (std::vector{1, 2}));
   EXPECT_EQ(taken.GetTailPosition(), tail);
-  EXPECT_TRUE(source.IsEmpty());  // NOLINT(bugprone-use-after-move): promised to be empty
+  EXPECT_TRUE(source.IsEmpty());  // promised of a list that was moved
   source.AddTail(&two);
   source = std::move(taken);
   EXPECT_EQ(Ids(source), (std::vector{1, 2}));
   EXPECT_EQ(source.GetHead(), &one);
-  EXPECT_TRUE(taken.IsEmpty());  // NOLINT(bugprone-use-after-move): promised to be empty
+  EXPECT_TRUE(taken.IsEmpty());  // promised of a list that was moved
 }
 
 static_assert(std::is_nothrow_move_constructible_v<CObList> &&

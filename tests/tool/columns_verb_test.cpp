@@ -135,6 +135,13 @@ TEST(ColumnsVerb, OptionsReachTheList) {
   }
 }
 
+TEST(ColumnsVerb, ASetWithoutComponentsInTheStudyIsNoted) {
+  const Outcome lacking = RunTool(ColumnsCommand({"thermal", "stress", "--set", "0"}));
+  EXPECT_EQ(lacking.code, 0);
+  EXPECT_EQ(lacking.err, "note: no column has a component in this study\n");
+  EXPECT_EQ(RunTool(ColumnsCommand({"static", "stress", "--set", "0"})).err, "");
+}
+
 TEST(ColumnsVerb, NamesAreInTheLanguageThatIsAskedFor) {
   const json answer =
       RunForJson(ColumnsCommand({"static", "displacement", "--set", "0", "--lang", "de"}));

@@ -105,8 +105,9 @@ TEST(EquationCheck, WhoTypesANameAlmostRightGetsTheNameItself) {
   for (const HintCase& row : cases) {
     const Outcome outcome = RunTool(CheckCommand('"' + std::string(row.name) + '"', "static"));
     EXPECT_EQ(outcome.code, 1) << row.name;
-    EXPECT_TRUE(Contains(outcome.err, "No component of a study 0 Static is called \"" +
-                                          std::string(row.name) + "\"."))
+    EXPECT_TRUE(
+        Contains(outcome.err, "No component for an equation of a study 0 Static is called \"" +
+                                  std::string(row.name) + "\"."))
         << outcome;
     EXPECT_TRUE(Contains(outcome.err, row.hint)) << row.name << '\n' << outcome;
   }
@@ -118,13 +119,23 @@ TEST(EquationCheck, WhoTypesANameAlmostRightGetsTheNameItself) {
   EXPECT_TRUE(Contains(life.err, "Did you mean \"LIFE: fatigue life\"?")) << life;
 }
 
+TEST(EquationCheck, ANameThatTheStudyHasElsewhereIsToldApart) {
+  const Outcome velocity = RunTool(CheckCommand("\"VX: velocity along X\"", "stepped"));
+  EXPECT_EQ(velocity.code, 1);
+  EXPECT_TRUE(Contains(velocity.err, "It is one of 19 Velocity, which equations cannot have"))
+      << velocity;
+  const Outcome moment = RunTool(CheckCommand("\"MRX: reaction moment about X\"", "static"));
+  EXPECT_EQ(moment.code, 1);
+  EXPECT_TRUE(Contains(moment.err, " With --mesh shell there is one.\n")) << moment;
+}
+
 TEST(EquationCheck, EveryUnknownNameIsNamedOnce) {
   const Outcome outcome =
       RunTool(CheckCommand(R"("qqq"+"SX: stress along X"+"rrr"-"qqq")", "static"));
   EXPECT_EQ(outcome.code, 1);
   EXPECT_EQ(outcome.err,
-            "mqpost: No component of a study 0 Static is called \"qqq\".\n"
-            "mqpost: No component of a study 0 Static is called \"rrr\".\n");
+            "mqpost: No component for an equation of a study 0 Static is called \"qqq\".\n"
+            "mqpost: No component for an equation of a study 0 Static is called \"rrr\".\n");
   EXPECT_EQ(outcome.out,
             "Equation for study 0 Static\n"
             "Typed      \"qqq\"+\"SX: stress along X\"+\"rrr\"-\"qqq\"\n"

@@ -138,6 +138,15 @@ TEST(EquationVerb, NamesAreThoseOfTheStudyTheMeshAndTheLanguage) {
   }
 }
 
+TEST(EquationVerb, AStudyWithoutTheOperandsIsDoubted) {
+  const Outcome thermal = RunTool(ExampleCommand({"--study", "thermal"}));
+  EXPECT_EQ(thermal.code, 0);
+  EXPECT_EQ(thermal.err,
+            "note: component 9 of result 2 Stress has no name in a study 3 Thermal: is --study "
+            "right?\n");
+  EXPECT_EQ(RunTool(ExampleCommand({"--study", "static"})).err, "");
+}
+
 TEST(EquationVerb, TheBytesOfTheVariablesAreNamedOneByOne) {
   struct Case {
     int offset;

@@ -170,6 +170,11 @@ ExitCode RunColumns(Session& session) {
     PrintColumns(session, list, columns);
   }
   if (HasNames(columns)) {
+    const bool isShown = std::ranges::any_of(
+        columns, [](const ListColumn& column) { return column.component != kNothing; });
+    if (!isShown) {
+      session.err << "note: no column has a component in this study\n";
+    }
     return ExitCode::Fine;
   }
   session.err << "mqpost: There are no such columns: result "

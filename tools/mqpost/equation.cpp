@@ -103,6 +103,18 @@ Json EquationToJson(const EquationView& view, bool isBytes) {
   return json;
 }
 
+/// A study that lacks an operand is most likely not that of the plot.
+void NoteNameless(Session& session, const EquationView& view) {
+  for (const CmqEquationVariable* variable : VariablesOf(view.plot)) {
+    if (NameComponent(view, *variable).empty()) {
+      session.err << "note: component " << variable->m_nComponent << " of result "
+                  << ShowCode(Results(), variable->m_nResultType) << " has no name in a study "
+                  << ShowCode(Studies(), view.study) << ": is --study right?\n";
+      return;
+    }
+  }
+}
+
 void PrintEquation(Session& session, const EquationView& view, bool isBytes) {
   PrintSummary(session, view);
   if (isBytes) {
@@ -155,6 +167,7 @@ ExitCode RunStored(Session& session) {
   } else {
     PrintEquation(session, view, isBytes);
   }
+  NoteNameless(session, view);
   return ExitCode::Fine;
 }
 

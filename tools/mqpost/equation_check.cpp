@@ -175,12 +175,44 @@ Json EquationToJson(const CheckedEquation& equation) {
   return json;
 }
 
+bool HasComponent(const CheckedEquation& equation, int result, int meshKind,
+                  const std::string& name) {
+  CatalogueOptions options;
+  options.meshKind = meshKind;
+  const int count = CountComponents(equation.study, result, options);
+  for (int component = 0; component < count; ++component) {
+    if (ComponentName(equation.study, result, component, options) == name) {
+      return true;
+    }
+  }
+  return false;
+}
+
+/// Where else the study has a component of that name, or what may have been meant.
+std::string FindElsewhere(const CheckedEquation& equation, const std::string& name) {
+  for (const Choice& mesh : Meshes()) {
+    for (const OfferedList& list : kOfferedLists) {
+      if (HasComponent(equation, Code(list.result), mesh.code, name)) {
+        return " With --mesh " + std::string(mesh.name) + " there is one.";
+      }
+    }
+  }
+  for (const Choice& result : Results()) {
+    if (HasComponent(equation, result.code, equation.meshKind, name)) {
+      return " It is one of " + ShowCode(Results(), result.code) +
+             ", which equations cannot have: they take stresses, beam stresses, strains, "
+             "displacements and thermal results.";
+    }
+  }
+  return AskWhether(FindNearestNames(name, equation.offered));
+}
+
 void Complain(Session& session, const CheckedEquation& equation) {
   for (const Operand& operand : equation.operands) {
     if (operand.result == kNothing) {
-      session.err << "mqpost: No component of a study " << ShowCode(Studies(), equation.study)
-                  << " is called " << Quoted(operand.name) << "."
-                  << AskWhether(FindNearestNames(operand.name, equation.offered)) << '\n';
+      session.err << "mqpost: No component for an equation of a study "
+                  << ShowCode(Studies(), equation.study) << " is called " << Quoted(operand.name)
+                  << "." << FindElsewhere(equation, operand.name) << '\n';
     } else if (!operand.IsKnown()) {
       session.err << "mqpost: " << Quoted(operand.name) << " is offered for result "
                   << ShowCode(Results(), operand.result)
@@ -209,9 +241,10 @@ ExitCode RunEquationCheck(Session& session) {
   CommandLine line(
       session, "equation check",
       "What an equation is stored as, and which components its names stand for. A name\n"
-      "is the full name of a component in double-quote characters. An equation that\n"
-      "begins with a minus stands behind --. Exit code 1 when a name is unknown or a\n"
-      "quotation mark has no partner.",
+      "is the full name of a component in double-quote characters: of a stress, beam\n"
+      "stress, strain, displacement or thermal result. Operators and numbers are not\n"
+      "checked. An equation that begins with a minus stands behind --. Exit code 1 when\n"
+      "a name is unknown or a quotation mark has no partner.",
       "mqpost equation check '\"SX: stress along X\"/2' --study static");
   line.Positional("TEXT", text, "the equation as it is typed");
   line.Text("--study", study, "the kind of study: name or code", "NAME");
