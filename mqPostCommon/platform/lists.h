@@ -104,9 +104,12 @@ class LinkedList {
   Value RemoveTail() { return Extract(m_tail); }
   void RemoveAt(POSITION position) { Unlink(ToNode(position)); }
   void RemoveAll() noexcept {
-    while (m_head != nullptr) {
-      Unlink(m_head);
+    for (const Node* node = m_head; node != nullptr;) {
+      delete std::exchange(node, node->next);
     }
+    m_head = nullptr;
+    m_tail = nullptr;
+    m_count = 0;
   }
 
   /// The position of the first element equal to `value` behind `startAfter` (from the head when
