@@ -1,11 +1,11 @@
 /// \file
-/// The definition of a result list, and the pair records that go with it.
+/// The definition of a result list.
 #pragma once
 
 #include <mqPostCommon/export.h>
-#include <mqPostCommon/params/owned.h>
 #include <mqPostCommon/params/plot.h>
 #include <mqPostCommon/params/view_matrix.h>
+#include <mqPostCommon/platform/owned.h>
 #include <mqPostCommon/platform/wide_string.h>
 
 /// One result list of a study: which component is listed, or which set of components in several
@@ -87,28 +87,4 @@ class MQPOSTCOMMON_API CVekPostListParam {
   mqp::ValueArray<int> m_arrHost23[2];
   int                  m_nHost24[9] = {0, 0, 0, 0, 0, 1, 0, -1, -1};
   // clang-format on
-};
-
-/// A pair of integers of a list.
-class MQPOSTCOMMON_API CVekPostListPair {
- public:
-  CVekPostListPair();
-  CVekPostListPair(const CVekPostListPair&);
-  CVekPostListPair& operator=(const CVekPostListPair&);
-  virtual ~CVekPostListPair();
-
-  int m_nFirst = 0;
-  int m_nSecond = 0;
-};
-
-/// A pair of integers to sort by.
-class MQPOSTCOMMON_API CVekIntPair {
- public:
-  CVekIntPair();
-  CVekIntPair(const CVekIntPair&);
-  CVekIntPair& operator=(const CVekIntPair&);
-  virtual ~CVekIntPair();
-
-  int m_nFirst = 0;
-  int m_nSecond = 0;
 };

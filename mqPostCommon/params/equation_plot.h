@@ -9,9 +9,9 @@
 #include <vector>
 
 #include <mqPostCommon/export.h>
-#include <mqPostCommon/params/owned.h>
 #include <mqPostCommon/params/stream/record_field.h>
 #include <mqPostCommon/platform/lists.h>
+#include <mqPostCommon/platform/owned.h>
 #include <mqPostCommon/platform/stream.h>
 #include <mqPostCommon/platform/text.h>
 #include <mqPostCommon/platform/wide_string.h>

@@ -4,10 +4,10 @@
 
 #include <mqPostCommon/export.h>
 #include <mqPostCommon/params/equation_plot.h>
-#include <mqPostCommon/params/owned.h>
 #include <mqPostCommon/params/view_matrix.h>
 #include <mqPostCommon/platform/arrays.h>
 #include <mqPostCommon/platform/integers.h>
+#include <mqPostCommon/platform/owned.h>
 #include <mqPostCommon/platform/wide_string.h>
 
 namespace mqp {

@@ -12,6 +12,7 @@
 #include <mqPostCommon/catalogue/codes.h>
 #include <mqPostCommon/catalogue/units.h>
 #include <mqPostCommon/lists/list.h>
+#include <mqPostCommon/lists/pairs.h>
 
 #include "catalogue/catalogue_test_support.h"
 #include "catalogue/name_test_support.h"

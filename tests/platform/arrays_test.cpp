@@ -1,3 +1,7 @@
+#include <algorithm>
+#include <cstddef>
+#include <numeric>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <type_traits>
@@ -217,6 +221,236 @@ TEST(Array, AnArrayIsMovedButNotCopiedByItself) {
   EXPECT_EQ(Read(array), (std::vector{1, 2}));
   array = Filled({3});
   EXPECT_EQ(Read(array), (std::vector{3}));
+}
+
+/// Remembers how it came to where it is: how often it was copied on the way, and whether it was
+/// ever assigned. A moved element says nothing of it and leaves 0 behind.
+struct Traveller {
+  Traveller() = default;
+  explicit Traveller(int number) : value(number) {}
+  Traveller(const Traveller& other)
+      : value(other.value), copies(other.copies + 1), isAssigned(other.isAssigned) {}
+  Traveller(Traveller&& other) noexcept
+      : value(std::exchange(other.value, 0)), copies(other.copies), isAssigned(other.isAssigned) {}
+  Traveller& operator=(const Traveller& other) {
+    value = other.value;
+    isAssigned = true;
+    return *this;
+  }
+  Traveller& operator=(Traveller&& other) noexcept {
+    value = std::exchange(other.value, 0);
+    isAssigned = true;
+    return *this;
+  }
+  ~Traveller() = default;
+
+  int value = 0;
+  int copies = 0;
+  bool isAssigned = false;
+
+  friend void PrintTo(const Traveller& traveller, std::ostream* out) {
+    *out << traveller.value << ", copied " << traveller.copies << " times"
+         << (traveller.isAssigned ? ", assigned" : "");
+  }
+  /// Compares everything.
+  bool operator==(const Traveller&) const = default;
+};
+
+using Travellers = CArray<Traveller>;
+
+/// The values 1, 2, ... of elements that were never copied, with room behind them for more.
+Travellers Boarded(int size) {
+  Travellers array;
+  array.SetSize(size + 8);
+  array.SetSize(size);
+  for (int index = 0; index < size; ++index) {
+    array[index].value = index + 1;
+  }
+  return array;
+}
+
+/// A traveller as it is after a number of copies.
+Traveller Copied(int value, int copies) {
+  Traveller traveller(value);
+  traveller.copies = copies;
+  return traveller;
+}
+
+std::vector<Traveller> Travelled(const Travellers& array) {
+  std::vector<Traveller> elements;
+  elements.reserve(static_cast<std::size_t>(array.GetSize()));
+  for (int index = 0; index < array.GetSize(); ++index) {
+    elements.push_back(Copied(array[index].value, array[index].copies));
+    elements.back().isAssigned = array[index].isAssigned;
+  }
+  return elements;
+}
+
+std::vector<Traveller> Expected(const std::vector<std::pair<int, int>>& valuesAndCopies) {
+  std::vector<Traveller> elements;
+  elements.reserve(valuesAndCopies.size());
+  for (const auto& [value, copies] : valuesAndCopies) {
+    elements.emplace_back(value).copies = copies;
+  }
+  return elements;
+}
+
+TEST(Array, ElementsAreMovedToTheirNewPlaceWhenTheArrayGrows) {
+  Travellers array = Boarded(2);
+  array.FreeExtra();
+  array.Add(Traveller(9));
+  EXPECT_EQ(Travelled(array), Expected({{1, 0}, {2, 0}, {9, 1}}));
+  array.SetSize(5);
+  EXPECT_EQ(Travelled(array), Expected({{1, 0}, {2, 0}, {9, 1}, {0, 0}, {0, 0}}));
+  array.SetSize(1);
+  array.FreeExtra();
+  EXPECT_EQ(Travelled(array), Expected({{1, 0}}));
+}
+
+TEST(Array, ElementsBesideARemovedOneAreMovedAndNeverAssigned) {
+  for (int size = 0; size <= 5; ++size) {
+    for (int index = 0; index <= size; ++index) {
+      for (int count = 0; index + count <= size; ++count) {
+        Travellers array = Boarded(size);
+        array.RemoveAt(index, count);
+        std::vector<std::pair<int, int>> expected;
+        for (int value = 1; value <= size; ++value) {
+          if (value <= index || value > index + count) {
+            expected.emplace_back(value, 0);
+          }
+        }
+        ASSERT_EQ(Travelled(array), Expected(expected))
+            << "removed " << count << " at " << index << " of " << size;
+      }
+    }
+  }
+}
+
+TEST(Array, ElementsBesideAnInsertedOneAreMovedAndNeverAssigned) {
+  for (int size = 0; size <= 5; ++size) {
+    for (int index = 0; index <= size; ++index) {
+      for (int count = 0; count <= 3; ++count) {
+        Travellers array = Boarded(size);
+        const Traveller inserted(9);
+        array.InsertAt(index, inserted, count);
+        ASSERT_EQ(array.GetSize(), size + count);
+        const std::vector<Traveller> got = Travelled(array);
+        for (int at = 0; at < size + count; ++at) {
+          const Traveller& element = got[static_cast<std::size_t>(at)];
+          const bool isInserted = at >= index && at < index + count;
+          const int old = at < index ? at : at - count;
+          ASSERT_EQ(element.value, isInserted ? 9 : old + 1)
+              << "inserted " << count << " at " << index << " of " << size << ", element " << at;
+          ASSERT_EQ(element.copies > 0, isInserted);
+          ASSERT_FALSE(element.isAssigned);
+        }
+        ASSERT_EQ(inserted, Copied(9, 0));
+      }
+    }
+  }
+}
+
+TEST(Array, EveryElementOfTheArrayMayBeInsertedAtEveryPlace) {
+  for (int size = 1; size <= 4; ++size) {
+    for (int index = 0; index <= size; ++index) {
+      for (int from = 0; from < size; ++from) {
+        for (int count = 0; count <= 3; ++count) {
+          Texts array;
+          std::vector<CString> expected;
+          for (int number = 0; number < size; ++number) {
+            CString text(kLongText);
+            text.AppendFormat(MQ_TEXT(" %d"), number);
+            array.Add(text);
+            expected.push_back(text);
+          }
+          const CString inserted = expected[static_cast<std::size_t>(from)];
+          expected.insert(expected.begin() + index, static_cast<std::size_t>(count), inserted);
+          array.InsertAt(index, array[from], count);
+          ASSERT_EQ(Read(array), expected) << "element " << from << " at " << index << " of "
+                                           << size << ", " << count << " times";
+        }
+      }
+    }
+  }
+}
+
+TEST(Array, ElementsArePutInEveryOrderWithoutAnAssignment) {
+  for (int size = 0; size <= 4; ++size) {
+    std::vector<int> order(static_cast<std::size_t>(size));
+    std::iota(order.begin(), order.end(), 0);
+    do {
+      Travellers array = Boarded(size);
+      array.Reorder(order);
+      std::vector<std::pair<int, int>> expected;
+      for (const int index : order) {
+        expected.emplace_back(index + 1, 0);
+      }
+      ASSERT_EQ(Travelled(array), Expected(expected)) << ::testing::PrintToString(order);
+    } while (std::next_permutation(order.begin(), order.end()));
+  }
+}
+
+TEST(Array, ACopyConstructsElementsAndAssignsNone) {
+  for (const int size : {0, 1, 3, 8}) {
+    Travellers array = Boarded(size);
+    const Travellers source = Boarded(3);
+    array.Copy(source);
+    EXPECT_EQ(Travelled(array), Expected({{1, 1}, {2, 1}, {3, 1}})) << size;
+    EXPECT_EQ(Travelled(source), Expected({{1, 0}, {2, 0}, {3, 0}})) << size;
+    array.Copy(Travellers());
+    EXPECT_TRUE(array.IsEmpty());
+  }
+  Travellers array = Boarded(2);
+  array.Copy(array);
+  EXPECT_EQ(Read(array).size(), 2U);
+  EXPECT_EQ(array[1].value, 2);
+  EXPECT_FALSE(array[1].isAssigned);
+}
+
+TEST(Array, OnlySettingAnElementAssignsIt) {
+  Travellers array = Boarded(2);
+  array.SetAt(1, array[0]);
+  EXPECT_EQ(array[1].value, 1);
+  EXPECT_TRUE(array[1].isAssigned);
+  EXPECT_FALSE(array[0].isAssigned);
+  array.SetAt(0, array[0]);
+  EXPECT_EQ(array[0].value, 1);
+}
+
+/// Elements that are alive.
+struct Counted {
+  Counted() { ++alive; }
+  Counted(const Counted&) { ++alive; }
+  Counted(Counted&&) noexcept { ++alive; }
+  Counted& operator=(const Counted&) = default;
+  Counted& operator=(Counted&&) noexcept = default;
+  ~Counted() { --alive; }
+
+  static int alive;
+};
+int Counted::alive = 0;
+
+TEST(Array, ElementsLiveAsLongAsTheyAreInTheArray) {
+  {
+    CArray<Counted> array;
+    array.SetSize(5);
+    EXPECT_EQ(Counted::alive, 5);
+    array.RemoveAt(1, 2);
+    EXPECT_EQ(Counted::alive, 3);
+    array.InsertAt(1, array[0], 4);
+    EXPECT_EQ(Counted::alive, 7);
+    array.Reorder(std::vector{6, 5, 4, 3, 2, 1, 0});
+    EXPECT_EQ(Counted::alive, 7);
+    CArray<Counted> copy;
+    copy.SetSize(2);
+    copy.Copy(array);
+    EXPECT_EQ(Counted::alive, 14);
+    copy.SetSize(1);
+    EXPECT_EQ(Counted::alive, 8);
+    array.RemoveAll();
+    EXPECT_EQ(Counted::alive, 1);
+  }
+  EXPECT_EQ(Counted::alive, 0);
 }
 
 TEST(InvalidArgument, IsCaughtByItsOwnNameAndAsEachStandardBase) {

@@ -10,14 +10,15 @@ TEST(CommandLine, HelpSaysEverythingAndIsFine) {
   for (const std::string help : {"--help", "-h", "help"}) {
     const Outcome outcome = RunTool({help});
     EXPECT_EQ(outcome.code, 0) << help;
-    for (const char* part :
-         {"list", "show", "find", "units", "strings", "ls", "graph", "convert", "columns",
-          "equation", "equation check", "Exit codes:", "  5  ", "NO_COLOR"}) {
+    for (const char* part : {"list", "show", "find", "units", "strings", "ls", "graph", "convert",
+                             "columns", "equation", "equation check", "material", "curve",
+                             "components", "Exit codes:", "  5  ", "NO_COLOR"}) {
       EXPECT_TRUE(Contains(outcome.out, part)) << part;
     }
   }
-  for (const std::string verb : {"list", "show", "find", "columns", "units", "strings", "ls",
-                                 "graph", "equation", "convert"}) {
+  for (const std::string verb :
+       {"list", "show", "find", "columns", "units", "strings", "ls", "graph", "equation", "convert",
+        "material", "curve", "components"}) {
     const Outcome outcome = RunTool({verb, "--help"});
     EXPECT_EQ(outcome.code, 0) << verb;
     EXPECT_TRUE(Contains(outcome.out, "Usage: mqpost " + verb)) << outcome;

@@ -7,14 +7,6 @@
 namespace mqp::test {
 namespace {
 
-tool::Environment Terminal(int width) {
-  tool::Environment environment = PipedEnvironment();
-  environment.isTerminal = true;
-  environment.isColorless = true;
-  environment.width = width;
-  return environment;
-}
-
 struct WidthCase {
   const char* text;
   int columns;

@@ -15,6 +15,7 @@
 #include <nlohmann/json.hpp>
 #include <gtest/gtest.h>
 #include <mqpost/run.h>
+#include <mqpost/text.h>
 #include <storage/compound_document.h>
 
 namespace mqp::test {
@@ -66,6 +67,21 @@ inline bool Contains(const std::string& text, const std::string& part) {
 inline std::string Utf8(const fs::path& path) {
   const std::u8string text = path.u8string();
   return {text.begin(), text.end()};
+}
+
+inline tool::Environment Terminal(int width) {
+  tool::Environment environment = PipedEnvironment();
+  environment.isTerminal = true;
+  environment.width = width;
+  return environment;
+}
+
+inline void ExpectNoLineWiderThan(int width, const std::string& text) {
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    EXPECT_LE(tool::CountColumns(line), width) << line;
+    EXPECT_FALSE(line.ends_with(' ')) << line;
+  }
 }
 
 inline fs::path Example(int version, const std::string& ending = ".cfb") {

@@ -100,6 +100,11 @@ void CommandLine::OneOf(const std::string& name, int& target, std::vector<Choice
       ->type_name("NAME");
 }
 
+void CommandLine::Texts(const std::string& name, std::vector<std::string>& target,
+                        const std::string& help, const std::string& placeholder) {
+  m_app->add_option(name, target, help)->allow_extra_args(false)->type_name(placeholder);
+}
+
 void CommandLine::Flag(const std::string& name, bool& target, const std::string& help) {
   m_app->add_flag(name, target, help);
 }

@@ -38,6 +38,9 @@ class CommandLine {
   /// One of the names, or any integer; an error calls it `what`.
   void OneOf(const std::string& name, int& target, std::vector<Choice> choices,
              const std::string& what, const std::string& help);
+  /// May be given several times, with one value each.
+  void Texts(const std::string& name, std::vector<std::string>& target, const std::string& help,
+             const std::string& placeholder);
   void Flag(const std::string& name, bool& target, const std::string& help);
   void Flag(const std::string& name, int& target, const std::string& help);  ///< 1 when given
 

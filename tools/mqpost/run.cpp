@@ -23,17 +23,20 @@ struct Verb {
 
 // clang-format off
 constexpr auto kVerbs = std::to_array<Verb>({
-    {"list",     "[STUDY]",                     "kinds of study and their results",         RunList},
-    {"show",     "STUDY RESULT",                "the components of a result",               RunShow},
-    {"find",     "STUDY RESULT NAME",           "the component that a name stands for",     RunFind},
-    {"columns",  "STUDY RESULT [--set N]",      "the columns of a result list",             RunColumns},
-    {"units",    "[TYPE]",                      "unit types with their units and defaults", RunUnits},
-    {"strings",  "[ID...]",                     "the string table and its translation",     RunStrings},
-    {"ls",       "DOC",                         "streams and storages of a document",       RunLs},
-    {"graph",    "DOC::STREAM --doc-version N", "a stored graph as a person reads it",      RunGraph},
-    {"equation", "DOC::STREAM --doc-version N", "a stored equation plot likewise",          RunEquation},
-    {"equation", "check TEXT --study STUDY",    "what an equation is stored as",            RunEquation},
-    {"convert",  "DOC -o NEW --doc-version N",  "a document in the newest layout",          RunConvert},
+    {"list",       "[STUDY]",                      "kinds of study and their results",         RunList},
+    {"show",       "STUDY RESULT",                 "the components of a result",               RunShow},
+    {"find",       "STUDY RESULT NAME",            "the component that a name stands for",     RunFind},
+    {"columns",    "STUDY RESULT [--set N]",       "the columns of a result list",             RunColumns},
+    {"units",      "[TYPE]",                       "unit types with their units and defaults", RunUnits},
+    {"strings",    "[ID...]",                      "the string table and its translation",     RunStrings},
+    {"ls",         "DOC",                          "streams and storages of a document",       RunLs},
+    {"graph",      "DOC::STREAM --doc-version N",  "a stored graph as a person reads it",      RunGraph},
+    {"equation",   "DOC::STREAM --doc-version N",  "a stored equation plot likewise",          RunEquation},
+    {"equation",   "check TEXT --study STUDY",     "what an equation is stored as",            RunEquation},
+    {"convert",    "DOC -o NEW --doc-version N",   "a document in the newest layout",          RunConvert},
+    {"material",   "keywords|units|model [WORD]",  "material properties, units and models",    RunMaterial},
+    {"curve",      "FILE.csv --at T",              "a property over temperature",              RunCurve},
+    {"components", "FILE.json",                    "the display list of an assembly",          RunComponents},
 });
 // clang-format on
 
@@ -49,9 +52,9 @@ Examples:
 
 Exit codes:
   0  fine
-  1  it ran and came to a finding: no such name (find, equation check), no such
-     columns (columns), no such text (strings), texts without a translation
-     (strings --missing)
+  1  it ran and came to a finding: no such name (find, equation check, material,
+     components), no such columns (columns), no such text (strings), texts
+     without a translation (strings --missing)
   2  the command line cannot be understood or carried out
   3  a file or record is damaged, or not what it should be
   4  a record holds more than this version knows

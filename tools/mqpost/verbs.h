@@ -17,5 +17,8 @@ ExitCode RunGraph(Session& session);
 ExitCode RunEquation(Session& session);
 ExitCode RunEquationCheck(Session& session);
 ExitCode RunConvert(Session& session);
+ExitCode RunMaterial(Session& session);
+ExitCode RunCurve(Session& session);
+ExitCode RunComponents(Session& session);
 
 }  // namespace mqp::tool

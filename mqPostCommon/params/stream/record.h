@@ -24,10 +24,10 @@
 #include <utility>
 #include <vector>
 
-#include <mqPostCommon/params/owned.h>
 #include <mqPostCommon/params/stream/record_field.h>
 #include <mqPostCommon/params/stream/strings.h>
 #include <mqPostCommon/platform/comm_funcs.h>
+#include <mqPostCommon/platform/owned.h>
 #include <mqPostCommon/platform/stream.h>
 
 namespace mqp {

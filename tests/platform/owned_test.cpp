@@ -4,9 +4,9 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <mqPostCommon/params/owned.h>
+#include <mqPostCommon/platform/owned.h>
 
-#include "params/record_test_support.h"
+#include "platform/print_text.h"
 
 namespace mqp::test {
 namespace {
