@@ -28,11 +28,6 @@ TEST(CommandLine, HelpSaysEverythingAndIsFine) {
   EXPECT_EQ(RunTool({"--version"}).out, "mqpost 0.1.0\n");
 }
 
-struct UsageCase {
-  std::vector<std::string> arguments;
-  const char* said;
-};
-
 TEST(CommandLine, WhatCannotBeUnderstoodIsSaidWithAHint) {
   const std::string document = Utf8(Example(890110));
   const std::vector<UsageCase> cases = {
@@ -81,14 +76,7 @@ TEST(CommandLine, WhatCannotBeUnderstoodIsSaidWithAHint) {
       {{"convert", document, "-o", "x.cfb"}, "--doc-version is missing"},
       {{"convert", document, "-o", "x.cfb", "--doc-version", "-1"}, "from version 800018 on"},
   };
-  for (const UsageCase& row : cases) {
-    const Outcome outcome = RunTool(row.arguments);
-    SCOPED_TRACE(json(row.arguments).dump());
-    EXPECT_EQ(outcome.code, 2) << outcome;
-    EXPECT_EQ(outcome.out, "");
-    EXPECT_TRUE(outcome.err.starts_with("mqpost: ")) << outcome;
-    EXPECT_TRUE(Contains(outcome.err, row.said)) << outcome;
-  }
+  ExpectUsageErrors(cases);
 }
 
 TEST(CommandLine, ErrorsAreTextEvenWhereJsonIsAskedFor) {

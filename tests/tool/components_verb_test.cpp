@@ -329,14 +329,9 @@ TEST(ComponentsVerb, FilesThatCannotBeReadAreFileTroubles) {
   EXPECT_EQ(RunTool({"components", folder.Name("folder.json")}).code, 5);
 }
 
-struct UsageCase {
-  std::vector<std::string> arguments;
-  const char* said;
-};
-
 TEST(ComponentsVerb, WhatCannotBeUnderstoodIsSaidWithAHint) {
   const std::string file = ExampleAssembly();
-  const UsageCase cases[] = {
+  const std::vector<UsageCase> cases = {
       {{"components"}, "FILE.json is required"},
       {{"components", file, "--sort", "up"}, "--sort takes asc or desc, not \"up\""},
       {{"components", file, "--element", "x"}, "--element takes a whole number of 32 bits"},
@@ -344,13 +339,7 @@ TEST(ComponentsVerb, WhatCannotBeUnderstoodIsSaidWithAHint) {
       {{"components", file, "--element", "1", "2"}, "one argument too many: \"2\""},
       {{"components", file, "--elements", "1"}, "Did you mean --element?"},
   };
-  for (const UsageCase& row : cases) {
-    SCOPED_TRACE(json(row.arguments).dump());
-    const Outcome outcome = RunTool(row.arguments);
-    EXPECT_EQ(outcome.code, 2) << outcome;
-    EXPECT_EQ(outcome.out, "");
-    EXPECT_TRUE(Contains(outcome.err, row.said)) << outcome;
-  }
+  ExpectUsageErrors(cases);
 }
 
 TEST(ComponentsVerb, NoLineIsWiderThanTheTerminal) {

@@ -242,14 +242,9 @@ TEST(CurveVerb, FilesThatCannotBeReadAreFileTroubles) {
   EXPECT_TRUE(Contains(unreadable.err, "folder.csv: This is a folder.")) << unreadable;
 }
 
-struct UsageCase {
-  std::vector<std::string> arguments;
-  const char* said;
-};
-
 TEST(CurveVerb, WhatCannotBeUnderstoodIsSaidWithAHint) {
   const std::string file = ExampleCurve();
-  const UsageCase cases[] = {
+  const std::vector<UsageCase> cases = {
       {{"curve"}, "FILE.csv is required"},
       {{"curve", file}, "Name a temperature, as in --at 20"},
       {{"curve", file, "--at", "warm"}, "--at takes a number with a decimal point, not \"warm\""},
@@ -259,13 +254,7 @@ TEST(CurveVerb, WhatCannotBeUnderstoodIsSaidWithAHint) {
       {{"curve", file, "--at", "20", "30"}, "one argument too many: \"30\""},
       {{"curve", file, "--att", "20"}, "Did you mean --at?"},
   };
-  for (const UsageCase& row : cases) {
-    SCOPED_TRACE(json(row.arguments).dump());
-    const Outcome outcome = RunTool(row.arguments);
-    EXPECT_EQ(outcome.code, 2) << outcome;
-    EXPECT_EQ(outcome.out, "");
-    EXPECT_TRUE(Contains(outcome.err, row.said)) << outcome;
-  }
+  ExpectUsageErrors(cases);
 }
 
 TEST(CurveVerb, NoLineIsWiderThanTheTerminal) {

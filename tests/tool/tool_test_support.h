@@ -64,6 +64,23 @@ inline bool Contains(const std::string& text, const std::string& part) {
   return text.find(part) != std::string::npos;
 }
 
+/// A command line that cannot be understood or carried out, and a part of what is said of it.
+struct UsageCase {
+  std::vector<std::string> arguments;
+  const char* said;
+};
+
+inline void ExpectUsageErrors(const std::vector<UsageCase>& cases) {
+  for (const UsageCase& row : cases) {
+    SCOPED_TRACE(json(row.arguments).dump());
+    const Outcome outcome = RunTool(row.arguments);
+    EXPECT_EQ(outcome.code, 2) << outcome;
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_TRUE(outcome.err.starts_with("mqpost: ")) << outcome;
+    EXPECT_TRUE(Contains(outcome.err, row.said)) << outcome;
+  }
+}
+
 inline std::string Utf8(const fs::path& path) {
   const std::u8string text = path.u8string();
   return {text.begin(), text.end()};

@@ -14,6 +14,7 @@
 #include "record_output.h"
 #include "stored_record.h"
 #include "table.h"
+#include "target_file.h"
 #include "text.h"
 #include "verbs.h"
 
@@ -32,25 +33,6 @@ struct NamedRecord {
   std::string stream;
   StoredRecord record;
 };
-
-void CheckTarget(const Job& job, bool isForced) {
-  const fs::path target = PathOf(job.target);
-  std::error_code ignored;
-  if (fs::equivalent(PathOf(job.source), target, ignored)) {
-    throw Problem(ExitCode::Usage, job.target +
-                                       ": This is the document that is read, and it is never "
-                                       "written over. Name another file after -o.");
-  }
-  if (fs::is_directory(target, ignored)) {
-    throw Problem(ExitCode::FileTrouble,
-                  job.target + ": This is a folder. Name the file to be written in it.");
-  }
-  if (!isForced && fs::exists(target, ignored)) {
-    throw Problem(ExitCode::Usage, job.target +
-                                       ": There is such a file already. Name another one, or add "
-                                       "--force to replace it.");
-  }
-}
 
 std::vector<NamedRecord> ReadRecords(const Job& job, const host::CompoundDocument& document) {
   std::vector<NamedRecord> records;
@@ -270,7 +252,7 @@ ExitCode RunConvert(Session& session) {
   }
   job.target = *target;
   job.version = RequireVersion(version, GraphKind());
-  CheckTarget(job, isForced);
+  CheckTarget(job.source, job.target, isForced);
   const host::CompoundDocument document(PathOf(job.source));
   const std::vector<NamedRecord> records = ReadRecords(job, document);
   CheckRecords(session, records);

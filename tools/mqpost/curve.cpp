@@ -7,6 +7,7 @@
 #include "curve_picture.h"
 #include "json_output.h"
 #include "table.h"
+#include "target_file.h"
 #include "text.h"
 #include "text_file.h"
 #include "verbs.h"

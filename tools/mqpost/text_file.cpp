@@ -61,22 +61,6 @@ std::string ReadTextFile(const std::string& name) {
   return text.starts_with(kByteOrderMark) ? text.substr(kByteOrderMark.size()) : text;
 }
 
-void CheckTarget(const std::string& source, const std::string& target, bool isForced) {
-  const fs::path file = PathOf(target);
-  std::error_code ignored;
-  if (fs::equivalent(PathOf(source), file, ignored)) {
-    Fail(ExitCode::Usage, target,
-         "This is the file that is read, and it is never written over. Name another one.");
-  }
-  if (fs::is_directory(file, ignored)) {
-    Fail(ExitCode::FileTrouble, target, "This is a folder. Name the file to be written in it.");
-  }
-  if (!isForced && fs::exists(file, ignored)) {
-    Fail(ExitCode::Usage, target,
-         "There is such a file already. Name another one, or add --force to replace it.");
-  }
-}
-
 void WriteTextFile(const std::string& name, std::string_view text) {
   try {
     host::WriteAtomically(PathOf(name), std::as_bytes(std::span(text)));

@@ -1,0 +1,34 @@
+#include "target_file.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "session.h"
+#include "text.h"
+
+namespace fs = std::filesystem;
+
+namespace mqp::tool {
+
+void CheckTarget(const std::string& source, const std::string& target, bool isForced) {
+  const fs::path file = PathOf(target);
+  std::error_code ignored;
+  if (fs::equivalent(PathOf(source), file, ignored)) {
+    throw Problem(
+        ExitCode::Usage,
+        Printable(target) +
+            ": This is the file that is read, and it is never written over. Name another one.");
+  }
+  if (fs::is_directory(file, ignored)) {
+    throw Problem(ExitCode::FileTrouble,
+                  Printable(target) + ": This is a folder. Name the file to be written in it.");
+  }
+  if (!isForced && fs::exists(file, ignored)) {
+    throw Problem(
+        ExitCode::Usage,
+        Printable(target) +
+            ": There is such a file already. Name another one, or add --force to replace it.");
+  }
+}
+
+}  // namespace mqp::tool
