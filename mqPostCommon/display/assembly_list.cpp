@@ -180,9 +180,10 @@ int CDspAsmCompList::HasPostCompMissing(const CDspAsmCompList& other) const {
 }
 
 int CDspAsmCompList::GetVisPartIndex_1based(int elem, int* index) const noexcept {
+  // The range comes first: it alone is read of a component that does not hold the element.
   const CDspAsmComp* holder = mqp::FindFirst(*this, [elem](const CDspAsmComp& component) {
-    return component.m_bHidden == 0 && component.PostAvailable() != 0 &&
-           elem >= component.m_nFirstElem && elem <= component.m_nLastElem;
+    return component.m_nFirstElem <= elem && elem <= component.m_nLastElem &&
+           component.PostAvailable() != 0 && component.m_bHidden == 0;
   });
   if (holder == nullptr) {
     return 0;
