@@ -55,7 +55,8 @@ CDspAsmComp::CDspAsmComp(int compId, int firstElem, int lastElem, const COGLColo
   m_nVisIndexBase = static_cast<int>(static_cast<unsigned>(firstElem) + 1U);  // wraps around
 }
 
-CDspAsmComp::CDspAsmComp(const CDspAsmComp& other) : AsmCompMembers(other) {
+CDspAsmComp::CDspAsmComp(const CDspAsmComp& other)
+    : AsmCompMembers(other), m_nHost27(other.m_nHost27) {
   if (mqp::IsOwner(other)) {
     m_arrFlipData = mqp::Duplicate(other.m_arrFlipData);
   } else {
@@ -70,6 +71,7 @@ CDspAsmComp& CDspAsmComp::operator=(const CDspAsmComp& other) {
     AsmCompMembers members(other);
     m_arrFlipData = mqp::Duplicate(other.m_arrFlipData);  // the old records become the host's
     AsmCompMembers::operator=(std::move(members));
+    m_nHost27 = other.m_nHost27;
   }
   return *this;
 }

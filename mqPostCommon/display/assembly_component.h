@@ -54,7 +54,6 @@ struct AsmCompMembers {
   ValueArray<double> m_arrHost23;                    ///< mesh data
   ValueArray<int>    m_arrHost24;
   int       m_bTempHidden = 0;                       ///< 1: hidden for a time
-  int       m_nHost27 = 0;
   // clang-format on
 };
 
@@ -92,10 +91,14 @@ class MQPOSTCOMMON_API CDspAsmComp : public mqp::AsmCompMembers {
 
   /// 1 when component number, element range, hidden flag and body id are equal, else 0.
   [[nodiscard]] int operator==(const CDspAsmComp& other) const noexcept;
-  /// 1 when the component has a range of elements, else 0.
+  [[nodiscard]] int operator!=(const CDspAsmComp& other) const noexcept {
+    return (*this == other) == 0 ? 1 : 0;
+  }
+  /// 1 when the first element number is at least 0 and the last one not below it, else 0.
   [[nodiscard]] int PostAvailable() const noexcept;
   /// Swaps the two colours.
   void FlipColor() noexcept;
 
   CArray<CShellEntityID_FlipData*> m_arrFlipData;
+  int m_nHost27 = 0;
 };

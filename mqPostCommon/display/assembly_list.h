@@ -27,6 +27,9 @@ class MQPOSTCOMMON_API CDspAsmCompList {
   /// 1 when both have the same number of components, equal one by one by `CDspAsmComp`'s rule,
   /// else 0. The values of the host are not compared.
   [[nodiscard]] int operator==(const CDspAsmCompList& other) const noexcept;
+  [[nodiscard]] int operator!=(const CDspAsmCompList& other) const noexcept {
+    return (*this == other) == 0 ? 1 : 0;
+  }
 
   [[nodiscard]] int GetSize() const noexcept;
   void RemoveAll() noexcept;
@@ -37,6 +40,7 @@ class MQPOSTCOMMON_API CDspAsmCompList {
   int Add(const CDspAsmComp& component, int value);
 
   /// A copy of a component, and its value: 0 for one that was added to the components alone.
+  /// \param value receives it; not null
   /// \throw CInvalidArgException for an index outside the list
   [[nodiscard]] CDspAsmComp GetAt(int index) const;
   [[nodiscard]] CDspAsmComp GetAt(int index, int* value) const;
@@ -61,7 +65,7 @@ class MQPOSTCOMMON_API CDspAsmCompList {
   [[nodiscard]] int HasPostCompMissing(const CDspAsmCompList& other) const;
 
   /// The 1-based visible index of an element, by the first component that is shown, has a range
-  /// and holds it.
+  /// and holds it: `m_nVisIndexBase - m_nFirstElem + elem`, wrapping around.
   /// \param index receives it; not null
   /// \return 1; 0 for none, with `index` as it was
   int GetVisPartIndex_1based(int elem, int* index) const noexcept;
@@ -72,7 +76,8 @@ class MQPOSTCOMMON_API CDspAsmCompList {
   /// The index of the first component of a body, or -1.
   [[nodiscard]] int GetIndexByBodyID(long bodyId) const noexcept;
   /// Assigns the first component of a body to `out`.
-  /// \return 1; 0 for none, when `out` becomes the last component of the list
+  /// \return 1; 0 for none, when `out` becomes the last component of the list, or stays as it was
+  ///         when that is empty
   int GetComponentByBodyID(long bodyId, CDspAsmComp& out) const;
   /// The names of the first component of a body; empty for none.
   [[nodiscard]] CString GetBodyNameByBodyID(long bodyId) const;

@@ -22,7 +22,7 @@ class MQPOSTCOMMON_API CMqNodalResultValuesOfElement {
 
   int m_nNodeIDs[10] = {};
   float m_fValues[10] = {};  ///< at the node of the same slot, in the unit that the host chose
-  int m_nNodes = 1;          ///< slots in use, from the first on
+  int m_nNodes = 1;          ///< slots in use, from the first on; not checked against ten
 };
 
 /// A stress tensor at each node of an element, its six components in the order of the host.
@@ -40,7 +40,7 @@ class MQPOSTCOMMON_API CMqStressTensorValuesOfAllNodesOfElement {
   /// The first component of each tensor of the first block times a factor; no invariant.
   [[nodiscard]] CMqNodalResultValuesOfElement GetSpecificResult(float factor) const noexcept;
 
-  int m_nNodes = 1;  ///< slots in use, from the first on
+  int m_nNodes = 1;  ///< slots in use, from the first on; not checked against ten
   int m_nNodeIDs[10] = {};
   float m_fStressTensor[10][6] = {};  ///< at the node of the same slot
   float m_fStressTensor2[6][6] = {};  ///< a second block for the first six slots

@@ -197,8 +197,10 @@ void CmqpMaterialDataList::RemoveAll() noexcept {
 }
 
 CmqpMaterialData CmqpMaterialDataList::GetAt(int index) const {
-  return index >= 0 && index < m_arrMaterials.GetSize() ? m_arrMaterials[index]
-                                                        : CmqpMaterialData();
+  if (index < 0 || index >= m_arrMaterials.GetSize()) {
+    return {};
+  }
+  return m_arrMaterials[index];
 }
 
 int CmqpMaterialDataList::GetByBodyID(long bodyId, CmqpMaterialData* out, int* index,

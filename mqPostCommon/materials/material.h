@@ -65,14 +65,15 @@ class MQPOSTCOMMON_API CmqpMaterialData {
   /// 1 when the tensile, the compressive and the shear strength are defined, else 0.
   [[nodiscard]] int IsSafeForCompositeFOS() const noexcept;
   /// 1 when count, units and strengths are exactly those of the other record, else 0. Whether the
-  /// shear strength is defined does not matter, its value does. Names, ids, curves and codes of
+  /// shear strength is defined does not matter, its value does. Flags are compared by value: 1 is
+  /// not 2; a strength that is not a number differs from itself. Names, ids, curves and codes of
   /// the host are not compared.
   [[nodiscard]] int IsSameValueForDesignCheck(const CmqpMaterialData& other) const noexcept;
 
   // clang-format off
   int     m_nCount = 0;                    ///< 0: the record has no usable data
   int     m_nMaterialSource = 0;           ///< a code of the host's
-  int     m_nDefinedUnits = 0;             ///< of the strengths: 0 N/m^2, 1 psi, 2 kgf/cm^2, 3 N/mm^2
+  int     m_nDefinedUnits = 0;             ///< of the strengths: 0 N/m^2, 1 psi, 2 kgf/cm^2, 3 N/mm^2, 4 and 5 reserved
   int     m_bHasSIGYLD = 0;
   double  m_dSIGYLD = -1.0;                ///< yield strength
   int     m_bSIGYLDTempDepend = 0;
@@ -86,11 +87,11 @@ class MQPOSTCOMMON_API CmqpMaterialData {
   int     m_bSIGXCTempDepend = 0;
   CmqTemperatureCurve m_SIGXCTempCurve;
   int     m_bHasSIGYT = 0;
-  double  m_dSIGYT = -1.0;                 ///< tensile strength along the second axis of the material
+  double  m_dSIGYT = -1.0;                 ///< tensile strength SIGYT
   int     m_bSIGYTTempDepend = 0;
   CmqTemperatureCurve m_SIGYTTempCurve;
   int     m_bHasSIGYC = 0;
-  double  m_dSIGYC = -1.0;                 ///< compressive strength along the second axis of the material
+  double  m_dSIGYC = -1.0;                 ///< compressive strength SIGYC
   int     m_bSIGYCTempDepend = 0;
   CmqTemperatureCurve m_SIGYCTempCurve;
   int     m_bHasSIGXY = 0;
@@ -109,8 +110,9 @@ class MQPOSTCOMMON_API CmqpMaterialData {
 
 /// The unit of a record's strengths as an index into the result units
 /// "N/m^2|psi|kgf/cm^2|N/mm^2 (MPa)|ksi".
-/// \param material read only
-/// \return 1 or 2 when the record has data in that unit; 0 otherwise, and for N/mm^2 as well
+/// \param material read only; null gives 0
+/// \return 1 or 2 when the record is defined in that unit and its count is not 0; 0 otherwise, and
+///         for N/mm^2 as well
 MQPOSTCOMMON_API int GetMatInStressUnit(const CmqpMaterialData* material) noexcept;
 
 /// The records of a study. Records are held by value and handed out as copies.
@@ -146,9 +148,12 @@ class MQPOSTCOMMON_API CmqpMaterialDataList {
   /// `CmqpMaterialData::IsSameValueForDesignCheck`; 0 otherwise, and for an empty list.
   [[nodiscard]] int IsSameValueForDesignCheck() const noexcept;
 
-  /// Whether a factor-of-safety plot uses a strength that varies with temperature. Which strengths
-  /// count depends on the failure criterion and its options; a plot of one body looks at the first
-  /// record of that body alone.
+  /// Whether a factor-of-safety plot uses a strength that varies with temperature. A plot of one
+  /// body looks at the first record of that body alone. Which strengths count:
+  ///   - failure criterion 4: yield, compressive and tensile strength
+  ///   - 2: compressive and tensile strength
+  ///   - any other: yield strength, but none when the first criterion option is 2
+  ///   - none at all when both criterion options are 2
   /// \param plot read only; null gives 0
   /// \return 1 or 0; 0 for plots of other results
   [[nodiscard]] int IsTemperatureDependentFOSCriterion(const CmqPostDataParam* plot) const noexcept;

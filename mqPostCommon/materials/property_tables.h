@@ -54,7 +54,8 @@ MQPOSTCOMMON_API MaterialModel GetMaterialModel(int number) noexcept;
 extern MQPOSTCOMMON_API const mqp::KeywordTable<mqp::kMatPropTotal> g_strMatPropKeywords;
 
 /// The unit of property i in material unit system j at `i * 6 + j`: 0 N/m^2 and its like, 1 psi,
-/// 2 kgf/cm^2, 3 N/mm^2; 4 and 5 are reserved ("Future"). "NA": the property has no unit.
+/// 2 kgf/cm^2, 3 N/mm^2; 4 and 5 are reserved. "NA": the property has no unit there; "Future": one
+/// is reserved. CREEPTC holds the names of unit systems.
 extern MQPOSTCOMMON_API const mqp::TextTable<mqp::kMatUnitTotal, 24> g_strMatPropUnits;
 
 /// The properties that a material model uses, in order.

@@ -30,6 +30,9 @@ std::size_t CmqTemperatureCurve::CountPoints() const noexcept {
 }
 
 double CmqTemperatureCurve::GetYValueAt(double x) const noexcept {
+  if (m_nPoints == 1 && !m_vecY.empty()) {  // whose temperature does not matter
+    return m_vecY[0];
+  }
   const std::size_t count = CountPoints();
   if (count == 0) {
     return 0.0;
@@ -53,7 +56,7 @@ double CmqTemperatureCurve::GetYValueAt(double x) const noexcept {
   }
   const auto hi = static_cast<std::size_t>(above - X);
   const std::size_t lo = hi - 1;
-  if (Y[hi] == Y[lo] || X[hi] == X[lo]) {
+  if (Y[hi] == Y[lo]) {  // the temperatures differ: that of lo is below x, or no number
     return Y[hi];
   }
   return Y[hi] + (Y[lo] - Y[hi]) * (x - X[hi]) / (X[lo] - X[hi]);

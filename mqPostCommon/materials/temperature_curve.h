@@ -23,13 +23,15 @@ class MQPOSTCOMMON_API CmqTemperatureCurve {
 
   /// The value at a temperature: that of the first point with exactly this temperature; otherwise
   /// on the line between the first point above and the point before it,
-  /// `Yhi + (Ylo - Yhi) * (x - Xhi) / (Xlo - Xhi)`, and `Yhi` where the two share a temperature or
-  /// a value. Temperatures out of order are taken as they stand.
+  /// `Yhi + (Ylo - Yhi) * (x - Xhi) / (Xlo - Xhi)`, and `Yhi` where the two share a value.
+  /// Temperatures out of order are taken as they stand.
   /// \param x a temperature; what is not a number has the value of the first point
   /// \return 0.0 for a curve without points
   [[nodiscard]] double GetYValueAt(double x) const noexcept;
 
-  int m_nPoints = 0;           ///< the points that count; more than both arrays hold count as those
+  /// The points that count; more than both arrays hold count as those. The temperature of a single
+  /// point is not looked at and may be missing.
+  int m_nPoints = 0;
   std::vector<double> m_vecX;  ///< temperatures
   std::vector<double> m_vecY;  ///< the property at the temperature of the same index
 

@@ -166,9 +166,8 @@ TEST(AssemblyComponent, ACopyStandsByItself) {
   CDspAsmComp source = Filled(10);
   const Lines expected = Describe(source);
   CDspAsmComp copy(source);
-  AsmCompMembers& members = copy;
   Filler fill(501);
-  VisitMembers(members, [&fill](const char*, auto& member) { fill(member); });
+  VisitMembers(copy, [&fill](const char*, auto& member) { fill(member); });
   EXPECT_EQ(Difference(Describe(source), expected), "");
   EXPECT_EQ(Difference(Describe(copy), Describe(Filled(501))), "");
 }
@@ -228,8 +227,7 @@ TEST(AssemblyComponent, EqualityLooksAtFiveMembersAndAtNoOther) {
     CDspAsmComp other = Filled(10);
     std::string_view changedName;
     std::size_t index = 0;
-    AsmCompMembers& members = other;
-    VisitMembers(members, [&](const char* name, auto& member) {
+    VisitMembers(other, [&](const char* name, auto& member) {
       if (index++ == changed) {
         Filler(501)(member);
         changedName = name;
@@ -241,6 +239,7 @@ TEST(AssemblyComponent, EqualityLooksAtFiveMembersAndAtNoOther) {
     count += decides ? 1 : 0;
     EXPECT_EQ(one == other, decides ? 0 : 1) << changedName;
     EXPECT_EQ(other == one, decides ? 0 : 1) << changedName;
+    EXPECT_EQ(one != other, decides ? 1 : 0) << changedName;
   }
   EXPECT_EQ(count, 5);
 }

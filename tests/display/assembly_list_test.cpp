@@ -255,6 +255,8 @@ TEST(AssemblyList, ListsAreEqualWhenTheirComponentsAreOneByOne) {
   EXPECT_EQ(CDspAsmCompList() == CDspAsmCompList(), 1);
   EXPECT_EQ(Numbered(3) == Numbered(3), 1);
   EXPECT_EQ(Numbered(3) == Numbered(2), 0);
+  EXPECT_EQ(Numbered(3) != Numbered(3), 0);
+  EXPECT_EQ(Numbered(3) != Numbered(2), 1);
   EXPECT_EQ(Numbered(2) == Numbered(3), 0);
   EXPECT_EQ(Numbered(0) == Numbered(1), 0);
   EXPECT_EQ(Numbered(1) == Numbered(0), 0);

@@ -24,13 +24,16 @@ using Lines = std::vector<std::string>;
 
 /// Calls `visit(name, member)` for every member but the flip records. The binding does not compile
 /// when a member is missing here.
-template <class Members, class Visit>
-void VisitMembers(Members& members, const Visit& visit) {
+template <class Component, class Visit>
+void VisitMembers(Component& component, const Visit& visit) {
+  using Members =
+      std::conditional_t<std::is_const_v<Component>, const AsmCompMembers, AsmCompMembers>;
+  Members& members = component;
   // clang-format off
   auto& [compId, firstElem, lastElem, color, bottomColor, hidden, compName, bodyName, bodyId,
          visIndexBase, ints11, doubles11, owns, sectProp, double14, extra, ints16, pointers16,
          arrays17, arrays18, ints19, pointers20, ints20, doubles20, owns2, ints22, array23, array24,
-         tempHidden, int27] = members;
+         tempHidden] = members;
   visit("m_nCompID",        compId);
   visit("m_nFirstElem",     firstElem);
   visit("m_nLastElem",      lastElem);
@@ -60,7 +63,7 @@ void VisitMembers(Members& members, const Visit& visit) {
   visit("m_arrHost23",      array23);
   visit("m_arrHost24",      array24);
   visit("m_bTempHidden",    tempHidden);
-  visit("m_nHost27",        int27);
+  visit("m_nHost27",        component.m_nHost27);
   // clang-format on
 }
 
@@ -112,8 +115,7 @@ std::string Show(const CArray<Element>& array) {
 /// Every member of a component, the flip records by their values.
 inline Lines Describe(const CDspAsmComp& component) {
   Lines lines;
-  const AsmCompMembers& members = component;
-  VisitMembers(members, [&lines](const char* name, const auto& member) {
+  VisitMembers(component, [&lines](const char* name, const auto& member) {
     lines.push_back(name + (": " + Show(member)));
   });
   lines.push_back("m_arrFlipData: " + Show(component.m_arrFlipData));
@@ -211,8 +213,7 @@ class Filler {
 inline CDspAsmComp Filled(int first) {
   CDspAsmComp component;
   Filler fill(first);
-  AsmCompMembers& members = component;
-  VisitMembers(members, [&fill](const char*, auto& member) { fill(member); });
+  VisitMembers(component, [&fill](const char*, auto& member) { fill(member); });
   return component;
 }
 

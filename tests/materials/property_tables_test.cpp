@@ -196,8 +196,9 @@ TEST(PropertyTables, TheReservedSystemsSayFutureWhereAPropertyHasUnits) {
   int future = 0;
   for (int property = 0; property < kKeywordTotal; ++property) {
     const std::string_view keyword = kKeywords[property];
-    const std::string first = Narrow(g_strMatPropUnits[property * 6]);
-    std::string expected = first == "NA" ? "NA" : "Future";
+    const auto* units = UnitsOf(keyword);
+    ASSERT_NE(units, nullptr) << keyword;
+    std::string expected = (*units)[0] == "NA" ? "NA" : "Future";
     if (keyword == "FRCANG") {
       expected = "Deg";
     } else if (keyword == "TAUG1" || keyword == "TAUK1") {
