@@ -85,6 +85,10 @@ TemporaryFile::~TemporaryFile() {
 void WriteAtomically(const fs::path& target, std::span<const std::byte> bytes) {
   const fs::path place = fs::is_symlink(target) ? fs::canonical(target) : target;
   const fs::file_status old = fs::status(place);
+  if (fs::exists(old) && !fs::is_regular_file(old)) {
+    // A rename would put a file in the place of a device or a pipe that others use.
+    throw std::system_error(std::make_error_code(std::errc::operation_not_supported));
+  }
   if (fs::exists(old) && (old.permissions() & fs::perms::owner_write) == fs::perms::none) {
     // A rename asks the folder alone and would get past the protection of the file.
     throw std::system_error(std::make_error_code(std::errc::permission_denied));

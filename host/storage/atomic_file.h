@@ -25,7 +25,7 @@ class TemporaryFile {
 
 /// Writes a temporary file beside the target, takes it to the disk and renames it over the
 /// target, whose permissions it takes over. A target that is a symbolic link stays one, and a
-/// write-protected target is left alone.
+/// write-protected target is left alone, as is one that is no file.
 /// \throw std::system_error with the target as it was and the temporary file removed
 void WriteAtomically(const std::filesystem::path& target, std::span<const std::byte> bytes);
 

@@ -10,6 +10,8 @@
 #include <gtest/gtest.h>
 #include <storage/atomic_file.h>
 
+#include "platform/make_pipe.h"
+
 namespace fs = std::filesystem;
 
 namespace mqp::host {
@@ -51,6 +53,17 @@ TEST_F(AtomicFiles, ATemporaryFileHasANameOfItsOwnBesideItsTarget) {
   EXPECT_TRUE(first.Path().filename().string().starts_with("study.cfb."));
   EXPECT_NE(first.Path(), target);
   EXPECT_NE(first.Path(), second.Path());
+  EXPECT_TRUE(IsEmpty());
+}
+
+TEST_F(AtomicFiles, ATargetThatIsAPipeStaysOne) {
+  if (!test::MakePipe(File("pipe"))) {
+    GTEST_SKIP() << "no pipe in the file system here";
+  }
+  const std::byte byte{1};
+  EXPECT_THROW(WriteAtomically(File("pipe"), {&byte, 1}), std::system_error);
+  EXPECT_TRUE(fs::is_fifo(File("pipe")));
+  fs::remove(File("pipe"));
   EXPECT_TRUE(IsEmpty());
 }
 

@@ -2,6 +2,7 @@
 #include <cmath>
 #include <locale>
 
+#include "platform/make_pipe.h"
 #include "tool/tool_test_support.h"
 
 namespace mqp::test {
@@ -442,6 +443,17 @@ TEST(CurvePicture, AnExistingFileIsReplacedOnlyByForce) {
   EXPECT_EQ(folder.Names(), (std::vector<std::string>{"curve.csv", "old.svg"}));
 }
 
+TEST(CurveVerb, AValueBeyondTheLargestNumberIsWarnedOf) {
+  const Folder folder;
+  WriteText(folder / "curve.csv", "20,1e308\n30,-1e308\n");
+  const Outcome outcome = RunTool({"curve", folder.Name("curve.csv"), "--at", "25", "--at", "30"});
+  EXPECT_EQ(outcome.code, 0);
+  EXPECT_TRUE(Contains(outcome.err, "warning: ") &&
+              Contains(outcome.err, "curve.csv: The value at 25.0 is beyond the largest number"))
+      << outcome;
+  EXPECT_FALSE(Contains(outcome.err, "30.0")) << outcome;
+}
+
 TEST(CurvePicture, TheFileThatIsReadIsNeverReplaced) {
   const Folder folder;
   WriteText(folder / "curve.csv", kThreePoints);
@@ -458,11 +470,24 @@ TEST(CurvePicture, AFolderThatIsNotThereIsAFileTrouble) {
   const Outcome missing = RunTool({"curve", file, "--svg", folder.Name("none/curve.svg")});
   EXPECT_EQ(missing.code, 5);
   EXPECT_EQ(missing.out, "");
-  EXPECT_TRUE(Contains(missing.err, "curve.svg: The file cannot be written: ")) << missing;
+  EXPECT_TRUE(Contains(missing.err, "curve.svg: There is no such folder.")) << missing;
   fs::create_directory(folder / "folder.svg");
   const Outcome taken = RunTool({"curve", file, "--svg", folder.Name("folder.svg"), "--force"});
   EXPECT_EQ(taken.code, 5);
   EXPECT_TRUE(Contains(taken.err, "This is a folder.")) << taken;
+}
+
+TEST(CurvePicture, APipeIsNeverReplacedByAFile) {
+  const Folder folder;
+  if (!MakePipe(folder / "pipe")) {
+    GTEST_SKIP() << "no pipe in the file system here";
+  }
+  const Outcome outcome =
+      RunTool({"curve", ExampleCurve(), "--svg", folder.Name("pipe"), "--force"});
+  EXPECT_EQ(outcome.code, 5);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_TRUE(Contains(outcome.err, "pipe: This is a device or a pipe.")) << outcome;
+  EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
 }
 
 TEST(CurvePicture, NothingIsDrawnOfADamagedFile) {

@@ -155,11 +155,24 @@ class Reader {
 
   [[nodiscard]] Json Parse(const std::string& text) const {
     try {
-      return Json::parse(text);
+      return Json::parse(text, [this](int depth, Json::parse_event_t, const Json&) {
+        RequireShallow(depth);
+        return true;
+      });
     } catch (const Json::parse_error& error) {
       FailAt(text, error.byte, error.what());
     } catch (const Json::exception& error) {
       throw Problem(ExitCode::Damaged, m_file + ": " + WithoutOrigin(error.what()) + ".");
+    }
+  }
+
+  /// A value is shown and destroyed level by level, on a stack that ends.
+  void RequireShallow(int depth) const {
+    constexpr int kDeepest = 64;
+    if (depth > kDeepest) {
+      throw Problem(ExitCode::Damaged, m_file + ": The brackets are nested more than " +
+                                           std::to_string(kDeepest) +
+                                           " deep. A list of components needs two levels.");
     }
   }
 

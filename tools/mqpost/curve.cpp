@@ -59,6 +59,16 @@ void WarnAboutDisorder(Session& session, const CurveData& data) {
        "The curve answers with one of the values: keep one line for each temperature.");
 }
 
+void WarnAboutOverflow(Session& session, const CurveData& data, const Answers& answers) {
+  for (const CurveAnswer& answer : answers) {
+    if (!std::isfinite(answer.value)) {
+      session.err << "warning: " << Printable(data.file) << ": The value at "
+                  << ShowNumber(answer.temperature)
+                  << " is beyond the largest number, as the points beside it lie too far apart.\n";
+    }
+  }
+}
+
 double ParseTemperature(const std::string& word) {
   const std::optional<double> number = ParseNumber(word);
   if (!number) {
@@ -170,6 +180,7 @@ ExitCode RunCurve(Session& session) {
   for (const double temperature : temperatures) {
     answers.push_back(AskCurve(data.curve, temperature));
   }
+  WarnAboutOverflow(session, data, answers);
   if (picture) {
     CheckPicture(data);
     WriteTextFile(*picture, DrawCurve(data, answers));

@@ -23,6 +23,14 @@ void CheckTarget(const std::string& source, const std::string& target, bool isFo
     throw Problem(ExitCode::FileTrouble,
                   Printable(target) + ": This is a folder. Name the file to be written in it.");
   }
+  if (const fs::path folder = file.parent_path(); !folder.empty() && !fs::exists(folder, ignored)) {
+    throw Problem(ExitCode::FileTrouble,
+                  Printable(target) + ": There is no such folder. Make it, or name another one.");
+  }
+  if (fs::exists(file, ignored) && !fs::is_regular_file(file, ignored)) {
+    throw Problem(ExitCode::FileTrouble,
+                  Printable(target) + ": This is a device or a pipe. Name a file to be written.");
+  }
   if (!isForced && fs::exists(file, ignored)) {
     throw Problem(
         ExitCode::Usage,
