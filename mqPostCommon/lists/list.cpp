@@ -70,14 +70,13 @@ constexpr bool IsFatigue(const CVekPostListParam& list) noexcept {
 
 bool Holds(Case when, const CVekPostListParam& list) noexcept {
   const auto study = static_cast<int>(StudySlot(list.m_nAnalysisType));
-  switch (when) {
-    case Case::Always: return true;
-    case Case::ModeShapes:
-      return kModalStudies.Has(study) && vekPostCommonGetActualFreqDispFlag() == 0;
-    case Case::TimeStudy: return kTimeStudies.Has(study);
-    case Case::Component100: return list.m_nComponent == kDynamicStressComponent;
+  if (when == Case::ModeShapes) {
+    return kModalStudies.Has(study) && vekPostCommonGetActualFreqDispFlag() == 0;
   }
-  return false;
+  if (when == Case::TimeStudy) {
+    return kTimeStudies.Has(study);
+  }
+  return when == Case::Always || list.m_nComponent == kDynamicStressComponent;
 }
 
 /// The last row of a list set whose case holds: a special one stands behind the plain one. Null for

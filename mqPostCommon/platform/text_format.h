@@ -5,11 +5,13 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <variant>
 
@@ -89,15 +91,20 @@ inline mqTextView SignOf(bool negative, const FormatLayout& layout) {
                        : (layout.blank ? MQ_TEXT(" ") : MQ_TEXT(""));
 }
 
+/// Digits as `std::to_chars` writes them, its letters in upper case if asked.
+inline std::basic_string<mqChar> Widen(std::string_view digits, bool upper) {
+  std::basic_string<mqChar> text;
+  for (const char digit : digits) {
+    text += static_cast<mqChar>(upper && digit >= 'a' ? digit - 'a' + 'A' : digit);
+  }
+  return text;
+}
+
 inline void AppendInteger(std::basic_string<mqChar>& out, bool negative, std::uint64_t magnitude,
                           int base, bool isSigned, bool upper, const FormatLayout& layout) {
   std::array<char, 64> digits{};
   const auto end = std::to_chars(digits.begin(), digits.end(), magnitude, base).ptr;
-  std::basic_string<mqChar> body;
-  for (auto* digit = digits.begin(); digit != end; ++digit) {
-    const bool isLower = *digit >= 'a' && *digit <= 'z';
-    body += static_cast<mqChar>(upper && isLower ? *digit - 'a' + 'A' : *digit);
-  }
+  std::basic_string<mqChar> body = Widen({digits.data(), end}, upper);
   if (layout.precision == 0 && magnitude == 0) {
     body.clear();
   }
@@ -128,14 +135,8 @@ inline void AppendNumber(std::basic_string<mqChar>& out, double value, mqChar le
                                  layout.precision < 0 ? 6 : layout.precision)
                        .ptr;
   const bool negative = digits.front() == '-';
-  std::basic_string<mqChar> body;
-  for (const char* digit = digits.begin() + (negative ? 1 : 0); digit != end; ++digit) {
-    const bool isLower = *digit >= 'a' && *digit <= 'z';
-    body += static_cast<mqChar>(upper && isLower ? *digit - 'a' + 'A' : *digit);
-  }
-  const bool isNumber =
-      !body.empty() && body.front() >= MQ_TEXT('0') && body.front() <= MQ_TEXT('9');
-  AppendPadded(out, SignOf(negative, layout), body, layout.zeros && isNumber, layout);
+  const std::basic_string<mqChar> body = Widen({digits.data() + (negative ? 1 : 0), end}, upper);
+  AppendPadded(out, SignOf(negative, layout), body, layout.zeros && std::isfinite(value), layout);
 }
 
 /// Formats as `printf` does, without a locale: the decimal point is a point.

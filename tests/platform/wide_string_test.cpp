@@ -615,6 +615,8 @@ TEST(WideString, GivenUnitsAreTrimmed) {
   EXPECT_EQ(CString(MQ_TEXT("xyaxybyx")).Trim(MQ_TEXT("xy")), CString(MQ_TEXT("axyb")));
   EXPECT_EQ(CString(MQ_TEXT("xyaxybyx")).TrimLeft(MQ_TEXT("xy")), CString(MQ_TEXT("axybyx")));
   EXPECT_EQ(CString(MQ_TEXT("xyaxybyx")).TrimRight(MQ_TEXT("xy")), CString(MQ_TEXT("xyaxyb")));
+  const mqChar* none = nullptr;
+  EXPECT_EQ(CString(MQ_TEXT(" xyx ")).TrimRight(none), CString(MQ_TEXT(" xyx ")));
   EXPECT_EQ(CString(MQ_TEXT("xyx")).Trim(MQ_TEXT("xy")), CString());
   EXPECT_EQ(CString(MQ_TEXT(" a ")).Trim(MQ_TEXT("")), CString(MQ_TEXT(" a ")));
   EXPECT_EQ(CString(MQ_TEXT(" a ")).Trim(MQ_TEXT("x")), CString(MQ_TEXT(" a ")));

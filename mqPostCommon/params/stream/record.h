@@ -62,7 +62,7 @@ bool ReadCharacters(IStream& stream, int count, CString& text);
 
 /// Writes fields of every version. Fields that follow one another go into the stream in one call
 /// as far as the buffer has room; what the stream answers is not looked at. Nothing is complete
-/// without `Finish`.
+/// without `Finish`. A record has at least one field.
 class RecordWriter {
  public:
   explicit RecordWriter(IStream& stream) : m_stream(stream) {}
@@ -89,10 +89,8 @@ class RecordWriter {
     }
   }
   void Finish() {
-    if (m_used > 0) {
-      m_stream.Write(m_buffer.data(), static_cast<ULONG>(m_used), nullptr);
-      m_used = 0;
-    }
+    m_stream.Write(m_buffer.data(), static_cast<ULONG>(m_used), nullptr);
+    m_used = 0;
   }
 
  private:
@@ -144,20 +142,14 @@ class RecordReader {
     Fixed(since, values);
   }
   void Strings(int since, std::string_view /*name*/, std::span<CString> values) {
-    if (m_version < since) {
-      return;
-    }
     for (CString& text : values) {
-      ReadCharacters(m_stream, ReadCount(), text);
+      ReadCharacters(m_stream, ReadCount(since), text);
     }
   }
   /// Appends to the list. Nothing is reserved: only as many objects are made as are read.
   template <class Object, class Visit>
   void Records(int since, std::string_view /*name*/, OwnedList<Object>& list, Visit visit) {
-    if (m_version < since) {
-      return;
-    }
-    const int count = std::min(ReadCount(), kMaximumRecordCount);
+    const int count = std::min(ReadCount(since), kMaximumRecordCount);
     for (int place = 0; place < count; ++place) {
       visit(list.Append(std::make_unique<Object>()));
     }
@@ -192,7 +184,7 @@ class RecordReader {
       return;
     }
     for (Value& value : values) {
-      if (m_buffer.size() - m_used < sizeof(Value) || m_targetCount == m_targets.size()) {
+      if (m_buffer.size() - m_used < sizeof(Value)) {
         Finish();
       }
       StoreLittleEndian(value, m_buffer.data() + m_used);
@@ -200,10 +192,11 @@ class RecordReader {
       m_targets[m_targetCount++] = {&value, sizeof(Value)};
     }
   }
-  /// Together with the fields before it; 0 as far as the stream does not deliver it.
-  int ReadCount() {
+  /// Together with the fields before it; 0 as far as the stream does not deliver it, and in a
+  /// version that does not have it.
+  int ReadCount(int since) {
     int count = 0;
-    Integers(m_version, {}, {&count, 1});
+    Integers(since, {}, {&count, 1});
     Finish();
     return count;
   }
@@ -211,7 +204,7 @@ class RecordReader {
   IStream& m_stream;
   int m_version;
   std::array<std::byte, 512> m_buffer;
-  std::array<Target, 128> m_targets;
+  std::array<Target, 512 / sizeof(int)> m_targets;  // the smallest fields fill both
   std::size_t m_used = 0;
   std::size_t m_targetCount = 0;
 };
