@@ -1,0 +1,62 @@
+#!/usr/bin/env python3
+"""The table of what was proved, made of what the checks left behind.
+
+Scripts leave lists of {"check", "cases", "result", "seconds"} in *.json; test programs leave the
+report of GoogleTest in *.gtest.json, of which the tests that say how many cases they ran are taken.
+"""
+
+import argparse
+import json
+import pathlib
+import re
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+
+
+def words(name):
+    """A test's name as a sentence: EveryBitIsFlipped becomes "Every bit is flipped"."""
+    name = name.removeprefix("DISABLED_").split("/")[-1]
+    parts = re.findall(r"[A-Z]+(?![a-z])|[A-Z]?[a-z]+|\d+", name)
+    parts = [part if part.isupper() and len(part) > 1 else part.lower() for part in parts]
+    return " ".join(parts)[:1].upper() + " ".join(parts)[1:]
+
+
+def rows_of_tests(report):
+    for suite in report["testsuites"]:
+        for test in suite["testsuite"]:
+            if "cases" in test:
+                yield {"check": f"{words(suite['name'])}: {words(test['name'])}",
+                       "cases": int(test["cases"]),
+                       "result": "FAILED" if "failures" in test else "passed",
+                       "seconds": float(test["time"].rstrip("s"))}
+
+
+def read_rows(folder):
+    for path in sorted(folder.glob("*.json")):
+        content = json.loads(path.read_text())
+        is_report = path.name.endswith(".gtest.json")
+        yield from rows_of_tests(content) if is_report else content
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--results", type=pathlib.Path, default=ROOT / "build/proof")
+    parser.add_argument("--output", type=pathlib.Path, default=ROOT / "build/proof/proof.md")
+    arguments = parser.parse_args()
+    rows = list(read_rows(arguments.results))
+    if not rows:
+        sys.exit(f"table.py: no check has left a result in {arguments.results}")
+    lines = ["# What was proved", "",
+             "Made by the checks themselves (`./dev prove`, or `./dev soak` for nights); "
+             "not edited by hand.", "",
+             "| check | cases | result | seconds |", "|---|---:|---|---:|"]
+    lines += [f"| {row['check']} | {row['cases']:,} | {row['result']} | {row['seconds']:.1f} |"
+              for row in rows]
+    arguments.output.parent.mkdir(parents=True, exist_ok=True)
+    arguments.output.write_text("\n".join(lines) + "\n")
+    print(f"{len(rows)} checks, {sum(row['cases'] for row in rows):,} cases: {arguments.output}")
+
+
+if __name__ == "__main__":
+    main()
