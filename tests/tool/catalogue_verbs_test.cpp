@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <mqCommFuncs/string_table.h>
@@ -272,6 +273,17 @@ TEST(UnitsVerb, AUnitTypeShowsItsNamesAndDefaults) {
   EXPECT_EQ(spectral.at("defaults"), (json{{"si", 2}, {"ips", 3}, {"metric", 1}}));
   // No component has it, so that the library chooses no default.
   EXPECT_EQ(RunForJson({"units", "34"}).at("unitTypes")[0].at("defaults"), nullptr);
+}
+
+TEST(UnitsVerb, AUnitTypeThatIsNamedIsShownWithItsName) {
+  // The second name is too long to lie inside a string.
+  for (const auto& [word, name] :
+       {std::pair("stress", "4  Stress "),
+        std::pair("HEATTRANSFERCOEFFICIENT", "16  HeatTransferCoefficient ")}) {
+    const Outcome outcome = RunTool({"units", word});
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_TRUE(Contains(outcome.out, name)) << outcome;
+  }
 }
 
 TEST(UnitsVerb, EveryUnitTypeIsListed) {

@@ -136,11 +136,11 @@ ExitCode RunUnits(Session& session) {
     throw Problem(ExitCode::Usage, "--lists prints every list: leave out " + Quoted(*word) + ".");
   }
   std::vector<Choice> types = UnitTypes();
-  std::string name;
+  std::string name;  // outlives the choice that looks at it
   if (word) {
     const int code = ParseChoice(*word, types, "unit type");
     name = NameOf(types, code);
-    types = {{code, name.empty() ? "-" : name}};
+    types = {{code, name.empty() ? std::string_view("-") : std::string_view(name)}};
   }
   if (isJson) {
     Print(session, isLists ? ListsToJson() : UnitsToJson(types));
