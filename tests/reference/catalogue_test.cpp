@@ -208,7 +208,7 @@ void CompareNames(const Question& q, int passOn, int alternate, int variant) {
 
 TEST_F(CatalogueReference, NamesOfEveryComponent) {
   long cases = 0;
-  for (const int flag : {0, 1}) {
+  for (const int flag : {0, 1, 2, -1}) {
     SetActualFrequencyFlag(flag);
     cases += ForEachComponent([flag](Question q) {
       for (const int mesh : {0, 4}) {
