@@ -51,10 +51,6 @@ const std::vector<Part> kParts = {
 };
 // clang-format on
 
-int IntAt(const Fields& fields, std::string_view name, int place = 0) {
-  return IntOf(fields.at({name, place}));
-}
-
 bool IsBetween(int number, int first, int last) {
   return first <= number && number <= last;
 }

@@ -36,7 +36,7 @@ class Random {
   }
 
   template <class Kind>
-  const Kind& From(const std::vector<Kind>& choices) {
+  Kind From(const std::vector<Kind>& choices) {
     return choices[static_cast<std::size_t>(Below(static_cast<int>(choices.size())))];
   }
 

@@ -43,6 +43,26 @@ int IntOf(const Value& value) {
   return static_cast<int>(static_cast<std::uint32_t>(value.bits));
 }
 
+int IntAt(const Fields& fields, std::string_view name, int place) {
+  return IntOf(fields.at({name, place}));
+}
+
+Text TextAt(const Fields& fields, std::string_view name, int place) {
+  return fields.at({name, place}).text;
+}
+
+void PutEmpty(Fields& fields, std::string_view name, int count) {
+  for (int place = 0; place < count; ++place) {
+    fields[{name, place}] = ValueOf(Text());
+  }
+}
+
+void PutIdentity(Fields& fields) {
+  for (int place = 0; place < 16; ++place) {
+    fields[{"view matrix", place}] = ValueOf(place % 5 == 0 ? 1.0 : 0.0);
+  }
+}
+
 namespace {
 
 std::string Describe(const Fields& fields, const Field& field) {

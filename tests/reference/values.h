@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <map>
 #include <string>
 #include <string_view>
@@ -42,6 +43,24 @@ int IntOf(const Value& value);
 /// The members of an object by name and place within the name.
 using Field = std::pair<std::string_view, int>;
 using Fields = std::map<Field, Value>;
+
+int IntAt(const Fields& fields, std::string_view name, int place = 0);
+Text TextAt(const Fields& fields, std::string_view name, int place = 0);
+
+/// Sets the places of a name from 0 on.
+template <class Number>
+void Put(Fields& fields, std::string_view name, std::initializer_list<Number> numbers) {
+  int place = 0;
+  for (const Number number : numbers) {
+    fields[{name, place++}] = ValueOf(number);
+  }
+}
+
+/// Sets as many texts to the empty one.
+void PutEmpty(Fields& fields, std::string_view name, int count = 1);
+
+/// Sets a view matrix that changes nothing.
+void PutIdentity(Fields& fields);
 
 /// Empty when both hold the same, else the first field that differs with both values.
 std::string FirstDifference(const Fields& expected, const Fields& got);
