@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string_view>
@@ -267,11 +268,13 @@ void VisitMembers(Component& component, Visit visit) {
   visit("row 14", 0, component.m_dHost14);
   visit("extra", 0, component.m_strExtra);
   VisitRow(visit, "row 16", component.m_nHost16);
-  VisitRow(visit, "row 17 first", component.m_arrHost17);
-  VisitRow(visit, "row 18 first", component.m_arrHost18);
+  VisitRow(visit, "row 16 pointers", component.m_pHost16);
+  VisitRow(visit, "row 17", component.m_arrHost17);
+  VisitRow(visit, "row 18", component.m_arrHost18);
   for (int place = 0; place < 27; ++place) {
     visit("row 19", place, component.m_nHost19[place / 9][place % 9]);
   }
+  VisitRow(visit, "row 20 pointers", component.m_pHost20);
   VisitRow(visit, "row 20", component.m_nHost20);
   VisitRow(visit, "row 20 doubles", component.m_dHost20);
   visit("owns too", 0, component.m_bOwnsMeshData2);
@@ -303,6 +306,9 @@ class Snapshooter {
   }
   void operator()(std::string_view name, int place, double number) {
     Put(name, place, ValueOf(number));
+  }
+  void operator()(std::string_view name, int place, const void* pointer) {
+    Put(name, place, {reinterpret_cast<std::uintptr_t>(pointer), {}});
   }
   void operator()(std::string_view name, int place, const COGLColor& color) {
     Put(name, 4 * place, ValueOf(color.Red()));
@@ -355,7 +361,7 @@ class Snapshooter {
   void PutElement(std::string_view name, int place, const Element& element) {
     (*this)(name, place, element);
   }
-  void PutElement(std::string_view name, int place, const CShellEntityID_FlipData* flip) {
+  void PutElement(std::string_view name, int place, CShellEntityID_FlipData* const& flip) {
     (*this)(name, 3 * place, flip->m_nHost1);
     (*this)(name, 3 * place + 1, flip->m_nHost2);
     (*this)(name, 3 * place + 2, flip->m_nHost3);
@@ -383,6 +389,10 @@ class Scrambler {
   }
   void operator()(std::string_view, int, float& number) { number = m_random.Float(); }
   void operator()(std::string_view, int, double& number) { number = m_random.Double(); }
+  void operator()(std::string_view, int, void*& pointer) {
+    static int pointed[8];
+    pointer = m_random.Once(4) ? nullptr : &pointed[m_random.Below(8)];
+  }
   void operator()(std::string_view, int, COGLColor& color) {
     const auto shade = [this] { return static_cast<float>(m_random.Below(3)) / 2.0F; };
     color = COGLColor(shade(), 0.0F, 1.0F, 1.0F);
