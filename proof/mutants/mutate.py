@@ -1,0 +1,356 @@
+#!/usr/bin/env python3
+"""Proves that the tests notice small faults in the library.
+
+One fault at a time is planted into the sources of mqPostCommon/ (operators.py lists the kinds):
+the affected objects are compiled, the library is linked and the suites run until one fails. What no
+suite notices is tried again with the address and undefined-behaviour sanitizers. A fault that is
+noticed is killed; one that is not has survived, which is a missing test, unless equivalents.tsv
+says why it changes nothing that anybody could notice.
+
+Readers and writers of records and the code that owns objects must lose every fault, the whole
+library 95 of 100. A fault that static_assert or the evaluation of a constant refuses counts as
+killed by the compiler; one that is no C++ does not count at all.
+
+  mutate.py --sample 120            some faults of every file (CI)
+  mutate.py --changed-since main    the lines that differ from a revision
+  mutate.py --all                   every fault: many hours
+"""
+
+import argparse
+import csv
+import difflib
+import hashlib
+import json
+import random
+import shutil
+import subprocess
+import sys
+import threading
+import time
+from collections import Counter
+from concurrent.futures import ThreadPoolExecutor
+from fnmatch import fnmatch
+from pathlib import Path
+
+import operators
+from builds import HEADER_TESTS, REFUSED, SUITES, SUITES_OF, CompileError, Preset
+
+HERE = Path(__file__).resolve().parent
+ROOT = HERE.parent.parent
+GATES = [
+    ("readers and writers of records", 100.0, [
+        "mqPostCommon/params/stream/*", "mqPostCommon/params/graph.*",
+        "mqPostCommon/params/equation_plot.*"]),
+    ("code that owns objects", 100.0, [
+        "mqPostCommon/display/*", "mqPostCommon/platform/owned.h", "mqPostCommon/platform/arrays.h",
+        "mqPostCommon/platform/lists.h", "mqPostCommon/materials/material.*"]),
+    ("whole library", 95.0, ["*"]),
+]
+# Tried without a fault first, for each wing: whatever is noticed then is a mistake of this script.
+FAULTLESS = {
+    "catalogue": "mqPostCommon/catalogue/texts.cpp",
+    "params": "mqPostCommon/params/stream/strings.cpp",
+    "lists": "mqPostCommon/lists/list.cpp",
+    "materials": "mqPostCommon/materials/material.cpp",
+    "display": "mqPostCommon/display/assembly_list.cpp",
+    "platform": "mqPostCommon/platform/owned.h",
+}
+KILLED = ("test", "compiler", "time", "sanitizer")
+
+
+def sources():
+    names = subprocess.run(["git", "ls-files", "mqPostCommon"], cwd=ROOT, check=True, text=True,
+                           stdout=subprocess.PIPE).stdout.split()
+    return [name for name in names if name.endswith((".h", ".cpp"))]
+
+
+def changed_lines(revision):
+    """The lines of each file that differ from a revision."""
+    diff = subprocess.run(["git", "diff", "-U0", revision, "--", "mqPostCommon"], cwd=ROOT,
+                          check=True, text=True, stdout=subprocess.PIPE).stdout
+    lines, path = set(), None
+    for line in diff.splitlines():
+        if line.startswith("+++ "):
+            path = line[6:]
+        elif line.startswith("@@"):
+            first, _, count = line.split("+")[1].split(" ")[0].partition(",")
+            lines.update((path, int(first) + step) for step in range(int(count or 1)))
+    return lines
+
+
+def sample(mutants, count, seed):
+    """As many of each file as possible, so that long tables do not drown the rest."""
+    chosen, files = [], {}
+    for mutant in mutants:
+        files.setdefault(mutant.path, []).append(mutant)
+    for number, path in enumerate(sorted(files)):
+        random.Random(f"{seed} {path}").shuffle(files[path])
+    while len(chosen) < count and files:
+        for path in sorted(files, key=lambda path: hashlib.sha1(f"{seed}{path}{len(chosen)}".encode())
+                           .digest()):
+            if len(chosen) < count:
+                chosen.append(files[path].pop())
+            if not files[path]:
+                del files[path]
+    return chosen
+
+
+class Equivalents:
+    """The faults that change nothing, one a line: file, text of the line, change, reason."""
+
+    def __init__(self, texts):
+        self.texts = {path: text.splitlines() for path, text in texts.items()}
+        with open(HERE / "equivalents.tsv", newline="", encoding="utf-8") as file:
+            rows = [row for row in csv.reader(file, delimiter="\t", quoting=csv.QUOTE_NONE)
+                    if row and not row[0].startswith("#")]
+        self.reasons = {tuple(row[:3]): row[3] for row in rows}
+
+    def key(self, mutant):
+        return mutant.path, self.texts[mutant.path][mutant.line - 1].strip(), mutant.change
+
+    def knows(self, mutant):
+        return self.key(mutant) in self.reasons
+
+    def unused(self, mutants):
+        return set(self.reasons) - {self.key(mutant) for mutant in mutants}
+
+
+class Trial:
+    """Tries one mutant after another in a folder of its own."""
+
+    def __init__(self, folder, presets, names, texts):
+        self.folder, self.presets, self.names, self.texts = folder, presets, names, texts
+
+    def verdict(self, mutant):
+        """What became of a mutant, and who noticed it."""
+        shutil.rmtree(self.folder, ignore_errors=True)
+        changed = self.folder / "changed" / mutant.path
+        changed.parent.mkdir(parents=True)
+        changed.write_text(mutant.apply(self.texts[mutant.path]), encoding="utf-8")
+        try:
+            for preset in self.names:
+                noticed = self._notice(self.presets(preset), mutant.path)
+                if noticed:
+                    return noticed
+        except CompileError as error:
+            words = str(error)
+            first = next((line for line in words.splitlines() if "error:" in line), words[:200])
+            return ("compiler" if REFUSED.search(words) else "invalid"), first.strip()
+        return "survived", ""
+
+    def require_silence(self, preset, path):
+        """A file without a fault is not noticed: what is noticed later is the fault."""
+        shutil.rmtree(self.folder, ignore_errors=True)
+        changed = self.folder / "changed" / path
+        changed.parent.mkdir(parents=True)
+        changed.write_text(self.texts[path], encoding="utf-8")
+        noticed = self._notice(preset, path)
+        if noticed:
+            raise SystemExit(f"{path} without a fault is noticed by {noticed[1]} ({preset.name})")
+
+    def _notice(self, preset, path):
+        wing = path.split("/")[1]
+        if wing == "platform":
+            noticed = self._own_test(preset, path)
+            if noticed or preset.name == "asan":
+                return noticed
+        library = None
+        targets = preset.library_objects(path)
+        if targets:
+            objects = {target: preset.compile(target, self.folder) for target in targets}
+            library = preset.link_library(objects, self.folder)
+            suites = SUITES_OF[wing][:1] if preset.name == "asan" else SUITES_OF[wing]
+            noticed = self._suites(preset, suites, {}, library)
+            if noticed:
+                return noticed
+        # What stands in a header is compiled into the tests as well.
+        if path.endswith(".h") and preset.name != "asan":
+            return self._header_suites(preset, path, wing, library)
+        return None
+
+    def _own_test(self, preset, path):
+        stem = Path(path).stem
+        source = f"tests/platform/{HEADER_TESTS.get(stem, stem)}_test.cpp"
+        for target in preset.test_objects("mqPlatformTests", path):
+            if preset.commands[target][0] == source:
+                objects = {target: preset.compile(target, self.folder)}
+                program = preset.link_tests("mqPlatformTests", objects, [target], self.folder)
+                return self._suites(preset, ["mqPlatformTests"], {"mqPlatformTests": program}, None)
+        return None
+
+    def _header_suites(self, preset, path, wing, library):
+        suite = next(name for name, folder in SUITES.items() if folder == wing)
+        targets = preset.test_objects(suite, path)
+        if not targets:
+            return None
+        objects = {target: preset.compile(target, self.folder) for target in targets}
+        program = preset.link_tests(suite, objects, preset.objects(preset.tests(suite)), self.folder)
+        return self._suites(preset, [suite], {suite: program}, library)
+
+    @staticmethod
+    def _suites(preset, suites, programs, library):
+        for slow in (False, True):
+            for suite in suites:
+                noticed = preset.test(suite, programs.get(suite), library, slow)
+                if noticed:
+                    return noticed
+        return None
+
+
+class Journal:
+    """Verdicts of earlier runs: what was killed once need not be killed again."""
+
+    def __init__(self, path, texts):
+        self.path, self.texts, self.known = path, texts, {}
+        if path and path.exists():
+            for line in path.read_text().splitlines():
+                entry = json.loads(line)
+                self.known[entry["id"]] = (entry["verdict"], entry["who"])
+
+    def id(self, mutant):
+        text = f"{mutant.path} {mutant.apply(self.texts[mutant.path])}"
+        return hashlib.sha1(text.encode()).hexdigest()
+
+    def find(self, mutant):
+        verdict = self.known.get(self.id(mutant)) if self.known else None
+        return verdict if verdict and verdict[0] != "survived" else None
+
+    def add(self, mutant, verdict, who):
+        if self.path:
+            with open(self.path, "a", encoding="utf-8") as file:
+                file.write(json.dumps({"id": self.id(mutant), "mutant": mutant.key,
+                                       "verdict": verdict, "who": who}) + "\n")
+
+
+def try_all(mutants, options, texts, equivalents, scratch):
+    """The verdict of each mutant, in their order."""
+    lock, presets, local = threading.Lock(), {}, threading.local()
+    journal = Journal(options.journal, texts)
+    names = ["dev"] if options.no_sanitizers else ["dev", "asan"]
+    tried = Counter()
+
+    def preset(name):
+        with lock:
+            if name not in presets:
+                slow = presets["dev"].slow if name != "dev" else None
+                presets[name] = Preset(ROOT, name, scratch, options.jobs, slow)
+                if name == "dev":
+                    presets[name].precompile()
+                trial = Trial(scratch / "faultless", preset, names, texts)
+                for wing in sorted({mutant.path.split("/")[1] for mutant in mutants}):
+                    trial.require_silence(presets[name], FAULTLESS[wing])
+            return presets[name]
+
+    def judge(mutant):
+        if equivalents.knows(mutant) and not options.try_equivalents:
+            return "equivalent", ""
+        known = journal.find(mutant)
+        if known:
+            return known
+        if not hasattr(local, "trial"):
+            with lock:
+                tried["workers"] += 1
+                local.trial = Trial(scratch / f"worker{tried['workers']}", preset, names, texts)
+        verdict, who = local.trial.verdict(mutant)
+        with lock:
+            tried[verdict] += 1
+            journal.add(mutant, verdict, who)
+            if verdict == "survived" or options.verbose:
+                show(mutant, verdict, who, texts)
+        return verdict, who
+
+    preset("dev")  # configured and built before the clock starts
+    start = time.monotonic()
+    with ThreadPoolExecutor(options.jobs) as pool:
+        verdicts = list(pool.map(judge, mutants))
+    seconds = time.monotonic() - start
+    count = sum(tried.values()) - tried["workers"]
+    if count:
+        print(f"{count} faults tried in {seconds:.0f} s: {seconds * options.jobs / count:.2f} s each")
+    return verdicts, seconds
+
+
+def show(mutant, verdict, who, texts):
+    print(f"{mutant.path}:{mutant.line}: {verdict}{' by ' if who else ''}{who}: {mutant.change}",
+          flush=True)
+    if verdict == "survived":
+        old = texts[mutant.path].splitlines()
+        new = mutant.apply(texts[mutant.path]).splitlines()
+        for line in list(difflib.unified_diff(old, new, lineterm="", n=0))[3:]:
+            print(f"    {line}", flush=True)
+
+
+def judge_gates(mutants, verdicts, seconds):
+    """The rows of the result table, and whether every gate holds."""
+    rows, holds = [], True
+    for name, least, patterns in GATES:
+        counted = Counter(verdict for mutant, (verdict, _) in zip(mutants, verdicts)
+                          if any(fnmatch(mutant.path, pattern) for pattern in patterns))
+        killed = sum(counted[verdict] for verdict in KILLED)
+        total = killed + counted["survived"]
+        score = 100.0 * killed / total if total else 100.0
+        holds = holds and score >= least
+        rows.append({
+            "check": f"faults planted into the {name} are noticed, {least:.0f} of 100 at least",
+            "cases": total,
+            "result": f"{killed} of {total} ({score:.1f} %): {counted['test']} by tests, "
+                      f"{counted['compiler']} by the compiler, {counted['time']} by the time limit, "
+                      f"{counted['sanitizer']} by sanitizers; {counted['survived']} survived, "
+                      f"{counted['equivalent']} change nothing, {counted['invalid']} are no C++",
+            "seconds": round(seconds, 1)})
+        print(f"{name}: {rows[-1]['result']}")
+    return rows, holds
+
+
+def parse():
+    parser = argparse.ArgumentParser(description=__doc__,
+                                     formatter_class=argparse.RawDescriptionHelpFormatter)
+    choice = parser.add_mutually_exclusive_group(required=True)
+    choice.add_argument("--all", action="store_true", help="every fault")
+    choice.add_argument("--sample", type=int, metavar="N", help="N faults, of every file about as many")
+    choice.add_argument("--changed-since", metavar="REV", help="faults of the lines changed since REV")
+    parser.add_argument("--seed", default="1", help="of the sample")
+    parser.add_argument("--files", nargs="+", default=["*"], metavar="GLOB",
+                        help="only in these files, e.g. 'mqPostCommon/params/*'")
+    parser.add_argument("--jobs", type=int, default=1)
+    parser.add_argument("--results", type=Path, default=ROOT / "build/proof", metavar="DIR")
+    parser.add_argument("--journal", type=Path, metavar="FILE",
+                        help="keep verdicts here; what was killed before is not tried again")
+    parser.add_argument("--try-equivalents", action="store_true",
+                        help="try those as well that are said to change nothing")
+    parser.add_argument("--no-sanitizers", action="store_true",
+                        help="do not try again with sanitizers what survived")
+    parser.add_argument("--list", action="store_true", help="only print the faults")
+    parser.add_argument("--verbose", action="store_true", help="print every verdict")
+    return parser.parse_args()
+
+
+def main():
+    options = parse()
+    texts = {path: (ROOT / path).read_text(encoding="utf-8") for path in sources()}
+    every = [mutant for path in texts for mutant in operators.mutants_of(path, texts[path])]
+    equivalents = Equivalents(texts)
+    unused = equivalents.unused(every)
+    for path, line, change in sorted(unused):
+        print(f"equivalents.tsv: no such fault: {path}: {line}: {change}")
+
+    mutants = [mutant for mutant in every if any(fnmatch(mutant.path, glob) for glob in options.files)]
+    if options.changed_since:
+        lines = changed_lines(options.changed_since)
+        mutants = [mutant for mutant in mutants if (mutant.path, mutant.line) in lines]
+    if options.sample:
+        mutants = sample(mutants, options.sample, options.seed)
+    print(f"{len(mutants)} of {len(every)} faults")
+    if options.list:
+        print("\n".join(mutant.key for mutant in mutants))
+        return 0
+
+    verdicts, seconds = try_all(mutants, options, texts, equivalents, ROOT / "build/mutants")
+    rows, holds = judge_gates(mutants, verdicts, seconds)
+    options.results.mkdir(parents=True, exist_ok=True)
+    (options.results / "mutants.json").write_text(json.dumps(rows, indent=2) + "\n")
+    return 0 if holds and not unused else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
