@@ -32,6 +32,7 @@ from concurrent.futures import ThreadPoolExecutor
 from fnmatch import fnmatch
 from pathlib import Path
 
+sys.dont_write_bytecode = True  # nothing but the results is written
 import operators
 from builds import HEADER_TESTS, REFUSED, SUITES, SUITES_OF, CompileError, Preset
 

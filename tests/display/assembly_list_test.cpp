@@ -941,6 +941,27 @@ TEST(AssemblyList, ManyColorsAreListedAsAPlainSearchListsThem) {
   EXPECT_TRUE(std::equal(expectedBottom.begin(), expectedBottom.end(), bottomColors.GetData()));
 }
 
+// A search through all colours before, for each of them, would not end in time.
+TEST(AssemblyList, ManyDistinctColorsAreAllListed) {
+  constexpr int kComponents = 50'000;
+  const COGLColor grey(0.5F, 0.5F, 0.5F, 1.0F);
+  CDspAsmCompList list;
+  for (int index = 0; index < kComponents; ++index) {
+    list.Add(CDspAsmComp(0, 0, 0, COGLColor(static_cast<float>(index), 0.0F, 0.0F, 1.0F), 0));
+  }
+  Colors colors;
+  Colors bottomColors;
+  EXPECT_EQ(list.MakeColorList(&colors, &bottomColors), 1);
+  ASSERT_EQ(colors.GetSize(), 2 * kComponents - 1);
+  ASSERT_EQ(bottomColors.GetSize(), kComponents);
+  EXPECT_EQ(colors[0].Red(), 0.0F);
+  for (int index = 1; index < kComponents; ++index) {
+    ASSERT_EQ(colors[2 * index - 1].Red(), static_cast<float>(index));
+    ASSERT_EQ(colors[2 * index], grey) << index;
+    ASSERT_EQ(bottomColors[index], grey) << index;
+  }
+}
+
 /// Components that end at `lastElems` and carry their old index, with values that stand out.
 CDspAsmCompList Ending(const Integers& lastElems) {
   CDspAsmCompList list;

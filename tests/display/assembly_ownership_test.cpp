@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <functional>
 #include <memory>
+#include <new>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -215,6 +216,53 @@ TEST(AssemblyOwnership, ACopyOfAnOwnerHasItsOwnRecordsAndAnyOtherTheSame) {
       }
     });
   }
+}
+
+/// Does something with less memory than it needs. Returns whether it came to its end.
+bool IsDoneWith(long allocations, const std::function<void()>& act) {
+  const ScarceMemory scarce(allocations);
+  try {
+    act();
+    return true;
+  } catch (const std::bad_alloc&) {
+    return false;
+  }
+}
+
+TEST(AssemblyOwnership, ACopyThatRunsOutOfMemoryLosesNothing) {
+  long allocations = 0;
+  for (bool done = false; !done; ++allocations) {
+    SCOPED_TRACE(std::to_string(allocations) + " allocations");
+    RecordLedger ledger;
+    if (!ledger.SeesTheLibrary()) {
+      GTEST_SKIP() << "the library has an operator new of its own";
+    }
+    const CDspAsmComp source = Holding(ledger, {1, 0, true}, 10);
+    done = IsDoneWith(allocations, [&source] { const CDspAsmComp copy(source); });
+    ExpectValues(source, 10);
+  }
+  EXPECT_GE(allocations, 3);  // two records and the array of them at least
+}
+
+TEST(AssemblyOwnership, AnAssignmentThatRunsOutOfMemoryLeavesTheTargetItsRecords) {
+  long allocations = 0;
+  for (bool done = false; !done; ++allocations) {
+    SCOPED_TRACE(std::to_string(allocations) + " allocations");
+    RecordLedger ledger;
+    if (!ledger.SeesTheLibrary()) {
+      GTEST_SKIP() << "the library has an operator new of its own";
+    }
+    const CDspAsmComp source = Holding(ledger, {1, 0, true}, 10);
+    CDspAsmComp target = Holding(ledger, {1, 0, true}, 20);
+    const Records records = RecordsOf(target);
+    done = IsDoneWith(allocations, [&source, &target] { target = source; });
+    ExpectValues(target, done ? 10 : 20);
+    EXPECT_EQ(target.m_nCompID, done ? 10 : 20);
+    if (done) {
+      HostDeletes(records);
+    }
+  }
+  EXPECT_GE(allocations, 3);
 }
 
 TEST(AssemblyOwnership, AnAssignmentMakesNewRecordsAndLeavesTheOldOnesToTheHost) {

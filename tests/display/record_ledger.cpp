@@ -12,6 +12,8 @@ namespace {
 
 std::atomic<long> g_blocks = 0;       // allocated and not given back
 std::atomic<long> g_allocations = 0;  // ever made
+constexpr long kPlenty = -1;
+std::atomic<long> g_allocationsLeft = kPlenty;
 mqp::test::RecordLedger* g_ledger = nullptr;
 
 void GiveBack(void* memory) noexcept {
@@ -28,6 +30,12 @@ void GiveBack(void* memory) noexcept {
 }  // namespace
 
 void* operator new(std::size_t size) {
+  if (g_allocationsLeft == 0) {
+    throw std::bad_alloc();
+  }
+  if (g_allocationsLeft != kPlenty) {
+    --g_allocationsLeft;
+  }
   void* memory = std::malloc(size == 0 ? 1 : size);
   if (memory == nullptr) {
     throw std::bad_alloc();
@@ -109,6 +117,13 @@ bool RecordLedger::Keep(void* memory) noexcept {
     }
   }
   return false;
+}
+
+ScarceMemory::ScarceMemory(long allocations) {
+  g_allocationsLeft = allocations;
+}
+ScarceMemory::~ScarceMemory() {
+  g_allocationsLeft = kPlenty;
 }
 
 }  // namespace mqp::test

@@ -46,4 +46,13 @@ class RecordLedger {
   std::array<Entry, 4096> m_entries;
 };
 
+/// Lets memory run out behind a number of allocations, until it is gone.
+class ScarceMemory {
+ public:
+  explicit ScarceMemory(long allocations);
+  ScarceMemory(const ScarceMemory&) = delete;
+  ScarceMemory& operator=(const ScarceMemory&) = delete;
+  ~ScarceMemory();
+};
+
 }  // namespace mqp::test
