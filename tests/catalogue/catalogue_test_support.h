@@ -74,6 +74,9 @@ class Sweep {
     if (++m_failures <= kPrintedRows) {
       Print({arguments...}, testing::PrintToString(expected), testing::PrintToString(got));
     }
+    if (GTEST_FLAG_GET(break_on_failure)) {
+      ADD_FAILURE() << m_rows.str();  // a debugger is to stop at this row
+    }
   }
 
  private:
