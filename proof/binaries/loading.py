@@ -1,0 +1,59 @@
+"""The library is loaded, asked early, and unloaded without a trace, on both platforms.
+
+Its objects have nothing to run at load or unload, and no symbol of it keeps it in memory. Programs
+load and unload it a thousand times, and ask it from a global object of another library. (Builds
+with clang refuse global constructors on their own.)
+"""
+
+import re
+
+from workshop import Finding, LIBRARIES, ROOT, cases_of, demand, demand_none, text
+
+TARGETS = ["mqUnloadingTests", "mqBeforeMainTests"]
+# Where a compiler puts pointers to what runs at load and unload.
+SECTIONS = re.compile(r"\.(?:init_array|fini_array|preinit_array|ctors|dtors)\b")
+
+
+def objects_with_constructors(folder, dump):
+    objects = sorted((folder / "mqPostCommon").glob("CMakeFiles/mqPostCommonObjects.dir/**/*.o*"))
+    demand(len(objects) > 10, f"the objects of the library are not in {folder}")
+    return len(objects), [object for object in objects if SECTIONS.search(text(*dump, object))]
+
+
+def check_objects():
+    cases = 0
+    for preset, dump in (("dev", ["readelf", "-SW"]),
+                         ("windows", ["x86_64-w64-mingw32-objdump", "-h"])):
+        count, faults = objects_with_constructors(ROOT / "build" / preset, dump)
+        demand_none(faults, "objects with something to run at load or unload")
+        cases += count
+    return Finding("no object of the library has anything to run at load or unload", cases, "none")
+
+
+def check_symbols(binaries):
+    """Unique symbols keep a library in memory for good; __cxa_atexit means work at unload."""
+    faults, cases = [], 0
+    for library in LIBRARIES:
+        for line in text("nm", "-D", binaries / f"lib{library}.so").splitlines():
+            cases += 1
+            *_, kind, name = line.split()
+            if kind == "u" or library == "mqPostCommon" and name.startswith("__cxa_atexit"):
+                faults.append(f"lib{library}.so: {name}")
+    demand_none(faults, "symbols that tie a library to the process")
+    return Finding("no symbol ties a library to the process", cases, "no unique one, no exit work")
+
+
+def check_programs(shop, platform, binaries):
+    tests = {}
+    for program in TARGETS:
+        tests |= shop.suite(platform, binaries / program)
+    unloading = next(test for name, test in tests.items() if "Growth" in name)
+    return Finding(f"loaded and unloaded, and asked before main ({platform})", cases_of(tests),
+                   "passed; allocated bytes {allocated}, resident {resident}".format(**unloading))
+
+
+def check(shop):
+    dev = shop.build("dev", "mqPostCommon", *TARGETS)
+    windows = shop.build("windows", "mqPostCommon", *TARGETS)
+    return [check_objects(), check_symbols(dev), check_programs(shop, "linux", dev),
+            check_programs(shop, "windows", windows)]
