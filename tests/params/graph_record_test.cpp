@@ -311,27 +311,6 @@ class ModelReader {
     return delivered;
   }
 
-  static void CorrectYUnitFlag(CmqPostGraphParam& graph) {
-    const int component = graph.m_YAxis.m_nComponent;
-    const int type = graph.m_nResultType;
-    if (graph.m_nYUnitFlag != 0 || graph.m_YAxis.m_nQuantityType != type) {
-      return;
-    }
-    const bool isReaction =
-        type == 1 && ((component >= 4 && component <= 7) || (component >= 11 && component <= 14));
-    const bool isDynamicResultant =
-        graph.m_nAnalysisType == 8 && component == 3 && (type == 1 || type == 19 || type == 20);
-    if (isReaction || isDynamicResultant) {
-      graph.m_nYUnitFlag = 1;
-    }
-  }
-
-  static void CorrectStressComponent(CmqGraphAxis& axis) {
-    if (axis.m_nQuantityType == 2 && axis.m_nComponent >= 11) {
-      ++axis.m_nComponent;
-    }
-  }
-
   const ByteString& m_bytes;
   CutNumber m_cut;
   std::size_t m_position = 0;

@@ -415,6 +415,29 @@ inline ByteString BuildRecord(const CmqPostGraphParam& graph, int version) {
   return appender.bytes.Get();
 }
 
+/// What reading puts right: a Y unit flag of zero where the shown component rules it out.
+inline void CorrectYUnitFlag(CmqPostGraphParam& graph) {
+  const int component = graph.m_YAxis.m_nComponent;
+  const int type = graph.m_nResultType;
+  if (graph.m_nYUnitFlag != 0 || graph.m_YAxis.m_nQuantityType != type) {
+    return;
+  }
+  const bool isReaction =
+      type == 1 && ((component >= 4 && component <= 7) || (component >= 11 && component <= 14));
+  const bool isDynamicResultant =
+      graph.m_nAnalysisType == 8 && component == 3 && (type == 1 || type == 19 || type == 20);
+  if (isReaction || isDynamicResultant) {
+    graph.m_nYUnitFlag = 1;
+  }
+}
+
+/// What reading puts right in documents before the version that inserted a stress component.
+inline void CorrectStressComponent(CmqGraphAxis& axis) {
+  if (axis.m_nQuantityType == 2 && axis.m_nComponent >= 11) {
+    axis.m_nComponent = static_cast<int>(static_cast<unsigned>(axis.m_nComponent) + 1U);
+  }
+}
+
 // --- equation plots ---
 
 /// The members of a variable as plain values; a new one has those of a new variable.
