@@ -3,6 +3,8 @@
 #pragma once
 
 #include <cstddef>
+#include <iterator>
+#include <memory>
 #include <span>
 #include <type_traits>
 #include <utility>
@@ -12,6 +14,10 @@
 /// `Copy` and `Append` say so where it is meant. Indices outside the array are the caller's
 /// error, except in `SetAtGrow`, which makes room. An element of the array itself may be handed
 /// in wherever an element is taken.
+///
+/// When memory runs out a function throws `std::bad_alloc` and the array is as it was; `SetAt`
+/// leaves of an element what its assignment does. Removing elements that move without a throw takes
+/// no memory.
 template <class TYPE, class ARG_TYPE = const TYPE&>
 class CArray {
   static_assert(!std::is_same_v<TYPE, bool>, "packed bits have no address: use int");
@@ -42,12 +48,13 @@ class CArray {
   void SetAtGrow(int index, ARG_TYPE element) {
     if (index < GetSize()) {
       SetAt(index, element);
-      return;
+    } else if (index == GetSize()) {
+      Add(element);
+    } else {
+      std::vector<TYPE> added(Position(index - GetSize() + 1));
+      added.back() = element;
+      AddAll(std::move(added));
     }
-    // Growing moves the elements, `element` perhaps among them.
-    TYPE kept = element;
-    SetSize(index + 1);
-    ElementAt(index) = std::move(kept);
   }
 
   /// The elements in one block, or null for an empty array; valid until the array changes.
@@ -67,36 +74,43 @@ class CArray {
   /// Appends every element of `other`, which may be this array; returns the index of the first.
   int Append(const CArray& other) {
     const int first = GetSize();
-    const int count = other.GetSize();
-    for (int index = 0; index < count; ++index) {
-      m_elements.push_back(other.m_elements[Position(index)]);
-    }
+    AddAll(other.m_elements);
     return first;
   }
   /// Replaces the elements by copies of those of `other`.
   void Copy(const CArray& other) { m_elements = std::vector<TYPE>(other.m_elements); }
   void InsertAt(int index, ARG_TYPE element, int count = 1) {
-    const std::vector<TYPE> inserted(Position(count), element);
+    std::vector<TYPE> inserted(Position(count), element);
     std::vector<TYPE> result;
     result.reserve(m_elements.size() + inserted.size());
-    Relocate(0, Position(index), result);
-    result.insert(result.end(), inserted.begin(), inserted.end());
-    Relocate(Position(index), m_elements.size(), result);
+    Relocate(m_elements, 0, Position(index), result);
+    Relocate(inserted, 0, inserted.size(), result);
+    Relocate(m_elements, Position(index), m_elements.size(), result);
     m_elements = std::move(result);
   }
   void RemoveAt(int index, int count = 1) {
-    std::vector<TYPE> result;
-    result.reserve(m_elements.size() - Position(count));
-    Relocate(0, Position(index), result);
-    Relocate(Position(index) + Position(count), m_elements.size(), result);
-    m_elements = std::move(result);
+    const std::size_t gap = Position(count);
+    if constexpr (std::is_nothrow_move_constructible_v<TYPE>) {
+      for (std::size_t from = Position(index) + gap; gap > 0 && from < m_elements.size(); ++from) {
+        TYPE* const place = &m_elements[from - gap];
+        std::destroy_at(place);
+        std::construct_at(place, std::move(m_elements[from]));
+      }
+      m_elements.erase(m_elements.end() - count, m_elements.end());
+    } else {
+      std::vector<TYPE> result;
+      result.reserve(m_elements.size() - gap);
+      Relocate(m_elements, 0, Position(index), result);
+      Relocate(m_elements, Position(index) + gap, m_elements.size(), result);
+      m_elements = std::move(result);
+    }
   }
   /// Puts the element of index `order[i]` at index i; `order` names every index once.
   void Reorder(std::span<const int> order) {
     std::vector<TYPE> result;
     result.reserve(m_elements.size());
     for (const int index : order) {
-      result.push_back(std::move(ElementAt(index)));
+      result.push_back(std::move_if_noexcept(ElementAt(index)));
     }
     m_elements = std::move(result);
   }
@@ -104,11 +118,18 @@ class CArray {
  private:
   static std::size_t Position(int index) noexcept { return static_cast<std::size_t>(index); }
 
-  /// Elements move to another place as the framework moves them: nothing is assigned.
-  void Relocate(std::size_t first, std::size_t last, std::vector<TYPE>& result) {
+  /// Elements move to another place as the framework moves them: nothing is assigned. Those whose
+  /// move may fail are copied, and stay in their old place until all have arrived.
+  static void Relocate(std::vector<TYPE>& elements, std::size_t first, std::size_t last,
+                       std::vector<TYPE>& result) {
     for (; first < last; ++first) {
-      result.push_back(std::move(m_elements[first]));
+      result.push_back(std::move_if_noexcept(elements[first]));
     }
+  }
+  /// Appends elements that are made already, so that none is left half-way.
+  void AddAll(std::vector<TYPE> elements) {
+    m_elements.insert(m_elements.end(), std::make_move_iterator(elements.begin()),
+                      std::make_move_iterator(elements.end()));
   }
 
   std::vector<TYPE> m_elements;
