@@ -59,6 +59,20 @@ void RequireIndex(const List& list, int index) {
   }
 }
 
+/// Lets `place` put a component at an index and sets its value. When memory runs out neither has
+/// happened.
+void PlaceWithValue(ValueArray<int>& values, int index, int value, auto place) {
+  const int before = values.GetSize();
+  values.SetSize(std::max(before, index + 1));
+  try {
+    place();
+  } catch (...) {
+    values.SetSize(before);
+    throw;
+  }
+  values[index] = value;
+}
+
 constexpr bool HasRangeOffZero(const CDspAsmComp& component) noexcept {
   return component.m_nFirstElem != 0 && component.m_nLastElem != 0;
 }
@@ -123,8 +137,8 @@ int CDspAsmCompList::Add(const CDspAsmComp& component) {
 }
 
 int CDspAsmCompList::Add(const CDspAsmComp& component, int value) {
-  const int index = m_arrComps.Add(component);
-  m_arrCompValues.SetAtGrow(index, value);
+  const int index = GetSize();
+  mqp::PlaceWithValue(m_arrCompValues, index, value, [&] { m_arrComps.Add(component); });
   return index;
 }
 
@@ -146,8 +160,8 @@ void CDspAsmCompList::SetAt(int index, const CDspAsmComp& component) {
 }
 
 void CDspAsmCompList::SetAt(int index, const CDspAsmComp& component, int value) {
-  SetAt(index, component);
-  m_arrCompValues.SetAtGrow(index, value);
+  mqp::RequireIndex(*this, index);
+  mqp::PlaceWithValue(m_arrCompValues, index, value, [&] { m_arrComps.SetAt(index, component); });
 }
 
 void CDspAsmCompList::SetSequence(int index, int firstElem, int lastElem) {
@@ -232,11 +246,13 @@ CString CDspAsmCompList::GetPartNameByBodyID(long bodyId) const {
 }
 
 void CDspAsmCompList::GetBodyListByPartName(std::vector<int>* out, const CString& name) const {
+  std::vector<int> found;
   for (int index = 0; index < GetSize(); ++index) {
     if (m_arrComps[index].m_strCompName.CompareNoCase(name) == 0) {
-      out->push_back(index);
+      found.push_back(index);
     }
   }
+  out->insert(out->end(), found.begin(), found.end());
 }
 
 CDspAsmCompList CDspAsmCompList::GetCompListByComponentName(const CString& name) const {
