@@ -1,4 +1,6 @@
 #include <iterator>
+#include <map>
+#include <utility>
 
 #include <mqPostCommon/catalogue/codes.h>
 #include <mqPostCommon/catalogue/components.h>
@@ -171,10 +173,11 @@ CmqPostGraphParam::~CmqPostGraphParam() = default;
 
 void CmqPostGraphParam::ConstructInit(int analysisType, int resultType, int resultOption,
                                       int meshKind, int dynamicOption) {
-  CmqPostGraphParam defaults(MemberDefaults{});
-  defaults.m_strHost36 = m_strHost36;
-  defaults.m_mapHost38 = m_mapHost38;
-  *this = defaults;
+  CString text = std::move(m_strHost36);
+  std::map<int, CString> texts = std::move(m_mapHost38);
+  *this = CmqPostGraphParam(MemberDefaults{});
+  m_strHost36 = std::move(text);
+  m_mapHost38 = std::move(texts);
 
   const int storedType =
       resultType == mqp::Code(ResultType::GraphStress) ? mqp::Code(ResultType::Stress) : resultType;
