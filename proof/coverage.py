@@ -2,7 +2,7 @@
 """The coverage floor: the suites run every line of the library, both ways of every branch, and each
 condition of a decision shown to decide by itself (MC/DC), as clang counts them.
 
-Works on the build of the `coverage` preset. What cannot be reached stands in
+Builds the suites with the `coverage` preset. What cannot be reached stands in
 coverage_exclusions.txt with its reason; an exclusion that is reached after all, or that no longer
 exists, fails as well, and so does a sixth one. Functions that the compiler alone evaluates have no
 code that could be run: they are constexpr, and no object file has counters for them.
@@ -10,6 +10,7 @@ code that could be run: they are constexpr, and no object file has counters for 
 
 import argparse
 import json
+import os
 import pathlib
 import re
 import subprocess
@@ -23,6 +24,13 @@ EXCLUSIONS = ROOT / "proof/coverage_exclusions.txt"
 MAXIMUM_EXCLUSIONS = 5
 SUITES = ["mqPlatformTests", "mqCatalogueTests", "mqParamsTests",
           "mqRecordPrimitivesTests", "mqListsTests", "mqMaterialsTests", "mqDisplayTests"]
+
+
+def build_suites(jobs):
+    subprocess.run(["cmake", "--preset", "coverage"], cwd=ROOT, check=True,
+                   stdout=subprocess.DEVNULL)
+    subprocess.run(["cmake", "--build", "--preset", "coverage", "--parallel", str(jobs),
+                    "--target", "mqTranslations", *SUITES, "--", "--quiet"], cwd=ROOT, check=True)
 
 
 def run_suites():
@@ -122,7 +130,9 @@ def read_exclusions():
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--results", type=pathlib.Path, default=ROOT / "build/proof")
+    parser.add_argument("--jobs", type=int, default=os.cpu_count())
     arguments = parser.parse_args()
+    build_suites(arguments.jobs)
     start = time.monotonic()
 
     exclusions = read_exclusions()
