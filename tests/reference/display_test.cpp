@@ -185,7 +185,7 @@ void AskForOthers(const CDspAsmCompList& list, const Entries& model, Random& ran
     otherModel = model;
     if (!model.empty() && random.Once(2)) {
       CDspAsmComp changed = other.GetAt(0);
-      changed.m_nHost27 += 1;
+      changed.m_nHost27 = random.Int();
       changed.m_nBodyID += random.Below(2);
       other.SetAt(0, changed);
       otherModel[0].component = Snapshot(changed);
@@ -254,7 +254,7 @@ void Sort(CDspAsmCompList& list, Entries& model, Random& random) {
     ASSERT_EQ("", Difference(before, list));
     return;
   }
-  std::ranges::stable_sort(model, [&](const Entry& one, const Entry& other) {
+  std::ranges::sort(model, [&](const Entry& one, const Entry& other) {
     return ascending != 0 ? key(one) < key(other) : key(one) > key(other);
   });
   const Entries got = Snapshots(list);
