@@ -75,6 +75,7 @@ MQPOSTCOMMON_API int vekPostCommonIsReferenceAvailable(int analysisType, int res
 /// \param ignored has no effect
 /// \param list    emptied, then filled with `AnalysisType` codes; stays empty for an unknown result
 /// \return 1
+/// \throw std::bad_alloc when memory runs out; the list then has some of the codes
 MQPOSTCOMMON_API int vekPostCommonGetAvailableAnalysisType(int resultType, int ignored,
                                                            CArray<int, int>& list);
 

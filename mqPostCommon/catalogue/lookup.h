@@ -1,7 +1,8 @@
 /// \file
 /// From a display text back to a code. The names are loaded from the string table one after the
 /// other in a fixed order, which is part of the contract: the first that begins with the key
-/// decides. The comparison is by code unit and with case.
+/// decides. The comparison is by code unit and with case. When memory runs out for a text they
+/// throw `std::bad_alloc`, and nothing else.
 #pragma once
 
 #include <mqPostCommon/export.h>

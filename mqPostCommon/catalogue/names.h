@@ -6,7 +6,8 @@
 ///
 /// Arguments throughout: `analysisType` an `AnalysisType`, `resultType` a `ResultType`,
 /// `component` a 0-based index (the fourth argument here), `meshKind` a `MeshKind`. Any integer
-/// may be passed. The actual-frequency display flag counts as set when it is not 0.
+/// may be passed. The actual-frequency display flag counts as set when it is not 0. When memory
+/// runs out for a text they throw `std::bad_alloc`, and nothing else.
 #pragma once
 
 #include <mqPostCommon/export.h>

@@ -73,6 +73,9 @@ struct AsmCompMembers {
 ///     also when the target was an owner. Assigning a component to itself does nothing.
 ///   - Moving hands the records over and leaves none behind.
 /// Section properties are never deleted here, so every copy holds the same pointers.
+///
+/// A copy or an assignment that runs out of memory throws `std::bad_alloc`; the target is as it
+/// was, with the records that it had.
 class MQPOSTCOMMON_API CDspAsmComp : public mqp::AsmCompMembers {
  public:
   CDspAsmComp();

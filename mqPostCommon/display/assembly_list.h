@@ -15,6 +15,9 @@
 /// The components of an assembly, held by value and handed out as copies, and beside each a value
 /// of the host's. Indices are 0-based; look-ups go in index order and take the first match. Names
 /// are compared as they are written unless said otherwise.
+///
+/// When memory runs out a function throws `std::bad_alloc`, and the list is as it was, as is what
+/// the function adds to or assigns; `MakeColorList` leaves some of the colours.
 class MQPOSTCOMMON_API CDspAsmCompList {
  public:
   CDspAsmCompList();

@@ -21,7 +21,9 @@ class MQPOSTCOMMON_API CSTLVertex {
   float m_fZ = 0.0F;
 };
 
-/// A facet: its normal and its vertices in order, of which a triangle has three. A value type.
+/// A facet: its normal and its vertices in order, of which a triangle has three. A value type. A
+/// copy or an assignment that runs out of memory throws `std::bad_alloc` and leaves the target as
+/// it was.
 class MQPOSTCOMMON_API CSTLFacet {
  public:
   /// \param vertices any number of them; copied

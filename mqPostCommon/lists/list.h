@@ -14,6 +14,9 @@
 /// A list has a leading column, 0, and behind it one column for each component. The functions of a
 /// component take its 0-based index among these. Where nothing is known texts are empty and counts
 /// are 0.
+///
+/// When memory runs out a function throws `std::bad_alloc` and nothing else; a list that was
+/// assigned to then has some of its new values.
 class MQPOSTCOMMON_API CVekPostListParam {
  public:
   CVekPostListParam();

@@ -1,5 +1,7 @@
 /// \file
-/// Material strengths for factor-of-safety results.
+/// Material strengths for factor-of-safety results. When memory runs out a function throws
+/// `std::bad_alloc` and nothing else: a list is as it was; a record that was assigned to, and what
+/// a question fills, has some of its new values.
 #pragma once
 
 #include <vector>

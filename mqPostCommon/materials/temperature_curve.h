@@ -9,7 +9,8 @@
 
 /// A piecewise-linear curve of a property over temperature. Below its first point and above its
 /// last one it is flat. Temperatures are in whatever unit the host fills in and are expected to
-/// ascend strictly; nothing is converted or checked.
+/// ascend strictly; nothing is converted or checked. A copy or an assignment that runs out of
+/// memory throws `std::bad_alloc`; the target then has some of its new values.
 class MQPOSTCOMMON_API CmqTemperatureCurve {
  public:
   CmqTemperatureCurve();

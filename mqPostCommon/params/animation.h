@@ -6,7 +6,8 @@
 #include <mqPostCommon/platform/integers.h>
 #include <mqPostCommon/platform/wide_string.h>
 
-/// How a plot is animated. A value type; not persisted.
+/// How a plot is animated. A value type; not persisted. A copy or an assignment that runs out of
+/// memory throws `std::bad_alloc`; the target then has some of its new values.
 class MQPOSTCOMMON_API CmqpAnimateParam {
  public:
   static constexpr int kLeastFrames = 2;

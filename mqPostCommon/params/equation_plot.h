@@ -4,6 +4,9 @@
 /// In an equation, names stand in double-quote characters (U+0022). The editor hands over what the
 /// user typed, with the names of components; stored are placeholders, `"Variable0"`,
 /// `"Variable1"`, ..., which mean the same in every language.
+///
+/// When memory runs out a function throws `std::bad_alloc` and nothing else. An object that was
+/// assigned to, read into or prepared then has some of its new values; otherwise it is as it was.
 #pragma once
 
 #include <vector>

@@ -27,6 +27,9 @@ struct CmqGraphAxis {
 ///
 /// A value type: copies are independent of their source. Members named `Host` are carried and,
 /// where the record has them, persisted for the host; nothing here depends on them.
+///
+/// When memory runs out a function throws `std::bad_alloc` and nothing else. A graph that was
+/// assigned to or read into then has some of its new values; otherwise it is as it was.
 class MQPOSTCOMMON_API CmqPostGraphParam {
  public:
   /// A stress graph of a `Stepped` study, as `ConstructInit` makes it of 5, 2, 0, 0 and -1.

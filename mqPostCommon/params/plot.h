@@ -77,7 +77,8 @@ class MQPOSTCOMMON_API CmqPostDataParam : public mqp::PlotMembers {
   ///   - the second and third integer of `m_nHost30` become 0;
   ///   - the first integer of `m_nHost41` and the two lists stay;
   ///   - each of the two arrays stays when the source has no elements in its own.
-  /// Assigning a plot to itself does nothing. When memory runs out the plot stays as it was.
+  /// Assigning a plot to itself does nothing. When memory runs out it throws `std::bad_alloc`, and
+  /// the plot stays as it was.
   CmqPostDataParam& operator=(const CmqPostDataParam& other);
   virtual ~CmqPostDataParam();
 

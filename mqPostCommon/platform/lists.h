@@ -30,6 +30,9 @@ namespace mqp {
 /// takes its nodes and their positions along and leaves an empty one. Positions handed in must come
 /// from this list and not be null unless said otherwise; an empty list has no head and no tail to
 /// return or remove.
+///
+/// An element that is added takes memory: when there is none the function throws `std::bad_alloc`
+/// and the list is as it was.
 template <class Value>
 class LinkedList {
  public:

@@ -1,6 +1,7 @@
 /// \file
 /// Containers of the host's framework that are copied together with the object whose member they
-/// are. The framework's own ones are not copied at all.
+/// are. The framework's own ones are not copied at all. A copy or an assignment that runs out of
+/// memory throws `std::bad_alloc` and leaves the target as it was.
 #pragma once
 
 #include <memory>

@@ -16,6 +16,8 @@
 /// A string of UTF-16 code units that owns its text. Positions and lengths count code units and
 /// are 0-based. Zero units inside the text count like any other, except in `operator const
 /// mqChar*` and `GetString`, whose reader stops at the first one.
+///
+/// When memory runs out a function throws `std::bad_alloc` and the text is as it was.
 class CString {
  public:
   CString() noexcept = default;

@@ -4,6 +4,8 @@
 ///     string := count characters
 ///     count  := 4 bytes, signed, little-endian; UTF-16 code units, at most 1024
 ///     characters := 2 x count bytes, little-endian, without a terminator
+///
+/// When memory runs out reading throws `std::bad_alloc` behind the record; the text is as it was.
 #pragma once
 
 #include <mqPostCommon/export.h>
