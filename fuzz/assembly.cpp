@@ -3,18 +3,16 @@
 // or at the end, where nobody owns them or an assignment left them behind; a second deletion and
 // a forgotten one end the program by themselves.
 #include <algorithm>
-#include <array>
-#include <bit>
 #include <climits>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <memory>
 #include <utility>
 #include <vector>
 
 #include <mqPostCommon/display/assembly_list.h>
 
+#include "assembly_model.h"
 #include "input.h"
 
 namespace mqp::fuzz {
@@ -27,63 +25,6 @@ const CString kNames[] = {MQ_TEXT("a"), MQ_TEXT("A"), MQ_TEXT("ab"), MQ_TEXT("AB
 const COGLColor kColors[] = {
     {1, 0, 0, 1},     {0, 1, 0, 1},          {0, 0, 0, 1},
     {-0.0F, 0, 0, 1}, {0.5F, 0.5F, 0.5F, 1}, {std::numeric_limits<float>::quiet_NaN(), 0, 0, 1}};
-
-using Records = std::vector<int>;
-struct Plain {
-  AsmCompMembers members;
-  Records records;
-  [[nodiscard]] bool IsOwner() const {
-    return members.m_bOwnsMeshData == 1 || members.m_bOwnsMeshData2 == 1;
-  }
-  [[nodiscard]] bool Counts() const {
-    return members.m_nFirstElem != 0 && members.m_nLastElem != 0;
-  }
-};
-struct PlainList {
-  std::vector<Plain> components;
-  std::vector<int> values;
-};
-
-bool AreSame(const COGLColor& one, const COGLColor& other) {
-  using Bits = std::array<std::uint32_t, 4>;
-  return std::bit_cast<Bits>(one) == std::bit_cast<Bits>(other);
-}
-bool AreSame(const CArray<COGLColor, COGLColor>& got, const std::vector<COGLColor>& expected) {
-  return std::ranges::equal(got.GetData(), got.GetData() + got.GetSize(), expected.begin(),
-                            expected.end(),
-                            [](auto& one, auto& other) { return AreSame(one, other); });
-}
-
-/// By everything that the list looks at or that tells components apart.
-bool AreSame(const CDspAsmComp& got, const Plain& expected) {
-  const AsmCompMembers& other = expected.members;
-  bool isSame =
-      got.m_nCompID == other.m_nCompID && got.m_nFirstElem == other.m_nFirstElem &&
-      got.m_nLastElem == other.m_nLastElem && AreSame(got.m_Color, other.m_Color) &&
-      AreSame(got.m_BottomColor, other.m_BottomColor) && got.m_bHidden == other.m_bHidden &&
-      got.m_strCompName == other.m_strCompName && got.m_strBodyName == other.m_strBodyName &&
-      got.m_nBodyID == other.m_nBodyID && got.m_nVisIndexBase == other.m_nVisIndexBase &&
-      got.m_bOwnsMeshData == other.m_bOwnsMeshData &&
-      got.m_bOwnsMeshData2 == other.m_bOwnsMeshData2 && got.m_bTempHidden == other.m_bTempHidden &&
-      got.m_nHost22[0] == other.m_nHost22[0] && got.m_nHost27 == other.m_nHost22[0] &&
-      got.m_arrFlipData.GetSize() == static_cast<int>(expected.records.size());
-  for (int place = 0; isSame && place < got.m_arrFlipData.GetSize(); ++place) {
-    isSame =
-        got.m_arrFlipData[place]->m_nHost1 == expected.records[static_cast<std::size_t>(place)];
-  }
-  return isSame;
-}
-bool AreSame(const CDspAsmCompList& got, const PlainList& expected) {
-  bool isSame = got.GetSize() == static_cast<int>(expected.components.size()) &&
-                got.m_arrCompValues.GetSize() == got.GetSize();
-  for (int index = 0; isSame && index < got.GetSize(); ++index) {
-    int value = 0;
-    isSame =
-        AreSame(got.GetAt(index, &value), expected.components[static_cast<std::size_t>(index)]) &&
-        value == expected.values[static_cast<std::size_t>(index)];
-  }
-  return isSame;
-}
 
 int Wrapped(std::int64_t sum) {
   return static_cast<int>(static_cast<std::uint32_t>(sum));
@@ -98,19 +39,6 @@ bool IsRefused(const Call& call) {
   }
   return false;
 }
-
-/// Holds what nobody else deletes.
-class Ledger {
- public:
-  void Take(const CDspAsmComp& component) {
-    for (int place = 0; place < component.m_arrFlipData.GetSize(); ++place) {
-      m_records.emplace_back(component.m_arrFlipData[place]);
-    }
-  }
-
- private:
-  std::vector<std::unique_ptr<CShellEntityID_FlipData>> m_records;
-};
 
 class Play {
  public:
@@ -170,34 +98,6 @@ class Play {
     plain.records.assign(static_cast<std::size_t>(m_input.Below(3)), plain.members.m_nHost22[0]);
     return plain;
   }
-  CDspAsmComp Make(const Plain& plain) {
-    CDspAsmComp component;
-    static_cast<AsmCompMembers&>(component) = plain.members;
-    component.m_nHost27 = plain.members.m_nHost22[0];
-    for (const int value : plain.records) {
-      auto record = std::make_unique<CShellEntityID_FlipData>();
-      record->m_nHost1 = value;
-      component.m_arrFlipData.Add(record.release());
-    }
-    if (!plain.IsOwner()) {
-      m_ledger.Take(component);
-    }
-    return component;
-  }
-  /// Assigns as `assign` does, and keeps account of the records: those that an owner held are left
-  /// behind, and new ones of a component that is no owner are nobody's.
-  template <class Assign>
-  void KeepAccount(const CDspAsmComp& target, const Plain& before, const Plain& after,
-                   const Assign& assign) {
-    if (before.IsOwner()) {
-      m_ledger.Take(target);
-    }
-    assign();
-    if (!after.IsOwner()) {
-      m_ledger.Take(target);
-    }
-  }
-
   void Add();
   void AddOwn();
   void Remove();
@@ -241,8 +141,8 @@ void Play::Add() {
   const int last = static_cast<int>(Plains().size());
   Plains().push_back(plain);
   m_plain->values.push_back(hasValue ? AnyNumber() : last + 1);
-  const int index =
-      hasValue ? m_list->Add(Make(plain), m_plain->values.back()) : m_list->Add(Make(plain));
+  const int index = hasValue ? m_list->Add(m_ledger.Make(plain), m_plain->values.back())
+                             : m_list->Add(m_ledger.Make(plain));
   Require(index == last, "the index of an added component");
 }
 
@@ -271,7 +171,7 @@ void Play::Remove() {
 void Play::SetAt() {
   const int index = AnyIndex();
   const Plain plain = AnyPlain();
-  const CDspAsmComp component = Make(plain);
+  const CDspAsmComp component = m_ledger.Make(plain);
   const int value = AnyNumber();
   if (!IsInside(index)) {
     Require(IsRefused([&] { m_list->SetAt(index, component); }) &&
@@ -280,7 +180,7 @@ void Play::SetAt() {
     return;
   }
   const bool hasValue = m_input.ConsumeBool();
-  KeepAccount(m_list->m_arrComps[index], At(index), plain, [&] {
+  m_ledger.Reassign(m_list->m_arrComps[index], At(index), plain, [&] {
     hasValue ? m_list->SetAt(index, component, value) : m_list->SetAt(index, component);
   });
   At(index) = plain;
@@ -359,13 +259,13 @@ void Play::AskBody() {
                   (found < 0 ? CString() : At(found).members.m_strBodyName),
           "the names of a body");
   const Plain before = AnyPlain();
-  CDspAsmComp out = Make(before);
+  CDspAsmComp out = m_ledger.Make(before);
   if (Plains().empty()) {
     Require(m_list->GetComponentByBodyID(body, out) == 0 && AreSame(out, before), "no component");
     return;
   }
   const Plain& assigned = found < 0 ? Plains().back() : At(found);
-  KeepAccount(out, before, assigned, [&] {
+  m_ledger.Reassign(out, before, assigned, [&] {
     Require(m_list->GetComponentByBodyID(body, out) == (found < 0 ? 0 : 1), "whether it is found");
   });
   Require(AreSame(out, assigned), "the component of a body");
@@ -494,8 +394,8 @@ void Play::CompareAndCopy() {
            one.members.m_bHidden == other.members.m_bHidden &&
            one.members.m_nBodyID == other.members.m_nBodyID;
   };
-  Require((*m_list == *m_other) ==
-              (std::ranges::equal(Plains(), m_otherPlain->components, areEqual) ? 1 : 0),
+  const int expected = std::ranges::equal(Plains(), m_otherPlain->components, areEqual) ? 1 : 0;
+  Require((*m_list == *m_other) == expected && (*m_list != *m_other) == 1 - expected,
           "whether two lists are equal");
   CDspAsmCompList copy(*m_list);
   Require(AreSame(copy, *m_plain) && (copy == *m_list) == 1, "a copy");

@@ -55,10 +55,11 @@ CString Replaced(const CString& text, const CString& old, const CString& replace
 
 CString AnyName(Input& input, int study) {
   const int resultType = kOffers[input.Below(std::size(kOffers))].resultType;
-  switch (input.Below(4)) {
-    case 0: return Placeholder(input.Below(kMostNames));
-    case 1: return input.AnyText(4);
-    case 2: return Quoted(input.AnyText(4));
+  switch (input.Below(5)) {
+    case 0: return CString(kQuote);  // stands in everything that replaces it
+    case 1: return Placeholder(input.Below(kMostNames));
+    case 2: return input.AnyText(4);
+    case 3: return Quoted(input.AnyText(4));
     default: break;
   }
   return Quoted(

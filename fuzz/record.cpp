@@ -197,7 +197,7 @@ void ReadManyVariables(const ByteString& bytes, int version) {
 }
 
 void PlayEquation(Input& input, bool isFilled, int version, std::uint16_t cut) {
-  const bool hasMany = input.ConsumeIntegral<std::uint8_t>() == 0xFF;
+  const bool hasMany = input.ConsumeIntegral<std::uint16_t>() == 0xFFFF;
   ByteString bytes = input.Rest();
   if (hasMany) {
     ReadManyVariables(bytes, version);
