@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <locale>
 #include <ostream>
 #include <string_view>
 
@@ -144,6 +145,9 @@ ExitCode RunGuarded(const std::vector<std::string>& arguments, std::ostream& out
 
 int Run(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err,
         const Environment& environment) {
+  // Numbers look alike in every locale.
+  out.imbue(std::locale::classic());
+  err.imbue(std::locale::classic());
   const ExitCode code = RunGuarded(arguments, out, err, environment);
   out.flush();
   if (!out) {
