@@ -3,6 +3,7 @@
 /// lines of text, and short ways to build them.
 #pragma once
 
+#include <charconv>
 #include <concepts>
 #include <cstddef>
 #include <cstdio>
@@ -71,9 +72,8 @@ inline std::string Show(int value) {
   return std::to_string(value);
 }
 inline std::string Show(double value) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%.17g", value);
-  return text;
+  char text[32];  // the same in every locale
+  return {text, std::to_chars(text, text + sizeof text, value, std::chars_format::general, 17).ptr};
 }
 inline std::string Show(const void* pointer) {
   char text[32];

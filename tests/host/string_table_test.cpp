@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <iomanip>
 #include <iterator>
 #include <limits>
 #include <map>
@@ -117,16 +117,17 @@ CString Load(UINT id) {
 
 /// The text with every code unit but ASCII as \u and four digits.
 std::string Show(mqTextView text) {
-  std::ostringstream out;
+  std::string shown;
   for (const mqChar unit : text) {
     if (unit >= 0x20 && unit < 0x7F) {
-      out << static_cast<char>(unit);
+      shown += static_cast<char>(unit);
     } else {
-      out << "\\u" << std::hex << std::uppercase << std::setw(4) << std::setfill('0')
-          << static_cast<unsigned>(unit);
+      char escaped[sizeof "\\uFFFF"];
+      std::snprintf(escaped, sizeof escaped, "\\u%04X", static_cast<unsigned>(unit));
+      shown += escaped;
     }
   }
-  return out.str();
+  return shown;
 }
 std::string Show(const CString& text) {
   return Show(text.View());
