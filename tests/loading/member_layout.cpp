@@ -256,10 +256,10 @@ static_assert(offsetof(mqp::AsmCompMembers, m_nHost22) == 636);
 static_assert(offsetof(mqp::AsmCompMembers, m_arrHost23) == 656);
 static_assert(offsetof(mqp::AsmCompMembers, m_arrHost24) == 680);
 static_assert(offsetof(mqp::AsmCompMembers, m_bTempHidden) == 704);
-static_assert(offsetof(mqp::AsmCompMembers, m_nHost27) == 708);
 
-static_assert(sizeof(CDspAsmComp) == 736);
+static_assert(sizeof(CDspAsmComp) == 744);
 static_assert(offsetof(CDspAsmComp, m_arrFlipData) == 712);
+static_assert(offsetof(CDspAsmComp, m_nHost27) == 736);
 
 static_assert(sizeof(CDspAsmCompList) == 48);
 static_assert(offsetof(CDspAsmCompList, m_arrComps) == 0);

@@ -39,6 +39,10 @@ bool IsSameName(const Text& one, const Text& other) {
 }
 
 double ValueAt(const Curve& curve, double x) {
+  if (curve.points == 1 && !curve.y.empty()) {
+    Hit("curve: single point");
+    return curve.y[0];
+  }
   // Nothing is promised of points that an array does not hold; they are left out of account.
   const int held = static_cast<int>(std::min(curve.x.size(), curve.y.size()));
   if (curve.points > held) {
@@ -52,7 +56,7 @@ double ValueAt(const Curve& curve, double x) {
     return 0.0;
   }
   if (n == 1) {
-    Hit("curve: one point");
+    Hit("curve: one point held");
     return Y(0);
   }
   if (!(x > X(0))) {

@@ -85,10 +85,10 @@ TEST(CurveReference, ValuesAtAnyTemperatureBitByBit) {
           << "at " << x << ": expected " << expected << ", got " << got << "; " << Describe(curve);
     }
   }
-  CheckTally("curve", {"curve: more points than held", "curve: no point", "curve: one point",
-                       "curve: not a number", "curve: below", "curve: above", "curve: at a point",
-                       "curve: level", "curve: between", "curve: from a point without temperature",
-                       "curve: no upper point"});
+  CheckTally("curve", {"curve: more points than held", "curve: no point", "curve: single point",
+                       "curve: one point held", "curve: not a number", "curve: below",
+                       "curve: above", "curve: at a point", "curve: level", "curve: between",
+                       "curve: from a point without temperature", "curve: no upper point"});
   // The first point above a temperature never shares its own with the point before it.
   EXPECT_EQ(0, Hits("curve: step"));
   RecordCases(3L * cases);
