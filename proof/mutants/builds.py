@@ -97,9 +97,7 @@ class Preset:
     def _plain(self, words):
         kept = [word for word in words if not re.match(r"-W|-O|-g", word)]
         compiler = next(i for i, word in enumerate(kept) if "++" in word)
-        # Instrumented code is too slow without optimisation.
-        level = "-O1" if self.name == "asan" else "-O0"
-        return [*kept[compiler : kept.index("-o")], "-w", level]
+        return [*kept[compiler : kept.index("-o")], "-w"]
 
     def _read_dependencies(self):
         output = subprocess.run(["ninja", "-C", self.folder, "-t", "deps"], check=True, text=True,
@@ -143,9 +141,9 @@ class Preset:
     def tests(suite):
         return f"tests/{SUITES[suite]}/CMakeFiles/{suite}.dir/"
 
-    def _precompiled(self, target):
+    def _precompiled(self, target, level):
         """Headers of the standard library and of the test framework, read once for all."""
-        if self.name != "dev":
+        if level != "-O0":
             return []
         kind = "library" if target.startswith(LIBRARY) else "tests"
         return ["-include", str(self.scratch / kind / "headers.h")]
@@ -161,21 +159,25 @@ class Preset:
             names += ["sstream", "gtest/gtest.h"] if kind == "tests" else []
             header = folder / "headers.h"
             header.write_text("".join(f"#include <{name}>\n" for name in names))
-            words = [word for word in self.commands[target][1]]
-            subprocess.run([*words, "-x", "c++-header", "-o", f"{header}.gch", "-c", header],
+            subprocess.run([*self.commands[target][1], "-O0", "-x", "c++-header", "-o", f"{header}.gch", "-c", header],
                            cwd=self.folder, check=True)
 
     # -----------------------------------------------------------------------------------------
 
-    def compile(self, target, worker):
-        """Compiles an object with the changed file of a worker in place of its own."""
+    def compile(self, targets, worker):
+        """Compiles objects with the changed file of a worker in place of its own."""
+        # One object is compiled fast; a library that is slow throughout would look like a loop.
+        level = "-O0" if len(targets) == 1 and self.name == "dev" else "-O1"
+        return {target: self._compile(target, level, worker) for target in targets}
+
+    def _compile(self, target, level, worker):
         source, words = self.commands[target]
         changed = worker / "changed" / source
         output = worker / self.name / target.replace("/", "+")
         output.parent.mkdir(exist_ok=True)
         code, words_of_compiler = run(
-            [words[0], "-I", str(worker / "changed"), *self._precompiled(target), *words[1:],
-             "-o", str(output), "-c", str(changed if changed.exists() else self.root / source)],
+            [words[0], "-I", str(worker / "changed"), *self._precompiled(target, level), *words[1:],
+             level, "-o", str(output), "-c", str(changed if changed.exists() else self.root / source)],
             self.folder, seconds=120, memory=None)
         if code != 0:
             raise CompileError(words_of_compiler)
@@ -222,7 +224,7 @@ class Preset:
             env["LD_LIBRARY_PATH"] = str(library)
         code, output = run([str(program or self.folder / "bin" / suite), "--gtest_brief=1",
                             "--gtest_fail_fast", f"--gtest_filter={names if slow else '-' + names}"],
-                           self.folder, seconds=4 * self.seconds[suite] + 2,
+                           self.folder, seconds=8 * self.seconds[suite] + 4,
                            memory=None if self.name == "asan" else 4 << 30, env=env)
         if code == 0:
             return None

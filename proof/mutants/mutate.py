@@ -158,7 +158,7 @@ class Trial:
         library = None
         targets = preset.library_objects(path)
         if targets:
-            objects = {target: preset.compile(target, self.folder) for target in targets}
+            objects = preset.compile(targets, self.folder)
             library = preset.link_library(objects, self.folder)
             suites = SUITES_OF[wing][:1] if preset.name == "asan" else SUITES_OF[wing]
             noticed = self._suites(preset, suites, {}, library)
@@ -174,7 +174,7 @@ class Trial:
         source = f"tests/platform/{HEADER_TESTS.get(stem, stem)}_test.cpp"
         for target in preset.test_objects("mqPlatformTests", path):
             if preset.commands[target][0] == source:
-                objects = {target: preset.compile(target, self.folder)}
+                objects = preset.compile([target], self.folder)
                 program = preset.link_tests("mqPlatformTests", objects, [target], self.folder)
                 return self._suites(preset, ["mqPlatformTests"], {"mqPlatformTests": program}, None)
         return None
@@ -184,7 +184,7 @@ class Trial:
         targets = preset.test_objects(suite, path)
         if not targets:
             return None
-        objects = {target: preset.compile(target, self.folder) for target in targets}
+        objects = preset.compile(targets, self.folder)
         program = preset.link_tests(suite, objects, preset.objects(preset.tests(suite)), self.folder)
         return self._suites(preset, [suite], {suite: program}, library)
 
@@ -214,7 +214,7 @@ class Journal:
 
     def find(self, mutant):
         verdict = self.known.get(self.id(mutant)) if self.known else None
-        return verdict if verdict and verdict[0] != "survived" else None
+        return verdict if verdict and verdict[0] in (*KILLED, "invalid") else None
 
     def add(self, mutant, verdict, who):
         if self.path:
@@ -253,10 +253,12 @@ def try_all(mutants, options, texts, equivalents, scratch):
                 tried["workers"] += 1
                 local.trial = Trial(scratch / f"worker{tried['workers']}", preset, names, texts)
         verdict, who = local.trial.verdict(mutant)
+        if equivalents.knows(mutant):
+            verdict = "equivalent" if verdict == "survived" else "wrong"
         with lock:
             tried[verdict] += 1
             journal.add(mutant, verdict, who)
-            if verdict == "survived" or options.verbose:
+            if verdict in ("survived", "wrong") or options.verbose:
                 show(mutant, verdict, who, texts)
         return verdict, who
 
@@ -283,7 +285,7 @@ def show(mutant, verdict, who, texts):
 
 def judge_gates(mutants, verdicts, seconds):
     """The rows of the result table, and whether every gate holds."""
-    rows, holds = [], True
+    rows, holds = [], all(verdict != "wrong" for verdict, _ in verdicts)
     for name, least, patterns in GATES:
         counted = Counter(verdict for mutant, (verdict, _) in zip(mutants, verdicts)
                           if any(fnmatch(mutant.path, pattern) for pattern in patterns))
@@ -318,7 +320,7 @@ def parse():
     parser.add_argument("--journal", type=Path, metavar="FILE",
                         help="keep verdicts here; what was killed before is not tried again")
     parser.add_argument("--try-equivalents", action="store_true",
-                        help="try those as well that are said to change nothing")
+                        help="try those as well that are said to change nothing; wrong: noticed")
     parser.add_argument("--no-sanitizers", action="store_true",
                         help="do not try again with sanitizers what survived")
     parser.add_argument("--list", action="store_true", help="only print the faults")

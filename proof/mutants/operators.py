@@ -277,7 +277,7 @@ class Source:
         return items
 
     def _arguments(self, opening):
-        if self.at(opening - 1) in DECLARING | {"catch", "sizeof", "decltype", "noexcept"}:
+        if self.at(opening - 1) in DECLARING | {"decltype", "noexcept", "swap", "min", "max"}:
             return
         items = self._items(opening)
         for place in range(opening, self.partner.get(opening, opening)):
