@@ -49,7 +49,7 @@ def elf_files(folder):
 
 def elf_faults(file):
     header = text("readelf", "-hlWd", file)
-    segments = re.findall(r"^\s+(LOAD|GNU_STACK|GNU_RELRO)\s.*?\s([R ][W ][E ])\s+0x", header,
+    segments = re.findall(r"^\s+(LOAD|GNU_STACK|GNU_RELRO)\s.*?\s(R[W ][E ])\s+0x", header,
                           re.MULTILINE)
     flags = " ".join(re.findall(r"\((?:FLAGS|FLAGS_1)\)\s+(.*)", header))
     paths = re.findall(r"\((?:RUNPATH|RPATH)\).*\[(.*)\]", header)
@@ -138,6 +138,6 @@ def check_windows(folder):
 def check(shop):
     dev = shop.build("dev")
     release = shop.build("release", "mqPostCommon", "mqpost")
-    windows = shop.build("windows", "mqPostCommon", "mqpost")
+    windows = shop.build("windows")
     return [*(check_commands(preset) for preset in OPTIONS),
             check_linux("dev", dev), check_linux("release", release), check_windows(windows)]

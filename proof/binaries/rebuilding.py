@@ -37,7 +37,8 @@ def check_platform(shop, platform):
         source = shop.fresh_folder(f"rebuilding/{name}")
         copy_sources(source)
         binaries = shop.build(preset, *targets, source=source,
-                              options=[*options, "-DMQ_CCACHE=", f"-DMQ_BUILD_TOOLS={shop.thorough}"],
+                              options=[*options, "-DMQ_CCACHE=",
+                                       f"-DMQ_BUILD_TOOLS={shop.thorough}"],
                               environment={"CCACHE_DISABLE": "1"})
         results.append(hashes(binaries))
         shutil.rmtree(source)
