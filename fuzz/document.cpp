@@ -92,9 +92,14 @@ bool List() {
   return true;
 }
 
-void ShowRecords(const std::string& version) {
-  int shown = 0;
+/// \return whether all records were shown
+bool ShowRecords(const std::string& version) {
+  bool areShown = true;
+  int count = 0;
   for (const auto& [path, bytes] : StreamsOf(CompoundDocument(kOld))) {
+    if (++count > kMostStreams) {
+      return false;
+    }
     const char* verb = path.starts_with("Plots/") ? "equation" : "graph";
     Words words = {verb, std::string(kOld) + "::" + path, "--doc-version", version};
     const int code = RunTool(words).code;
@@ -102,10 +107,9 @@ void ShowRecords(const std::string& version) {
     const Outcome outcome = RunTool(words);
     Require(outcome.code == code, "both forms of a record end alike");
     Require(code != 0 || ParseAnswer(outcome)["length"] == bytes.size(), "the length of a record");
-    if (++shown == kMostStreams) {
-      return;
-    }
+    areShown = areShown && (code == 0 || !IsRecord(path));
   }
+  return areShown;
 }
 
 /// \return whether there is a new document
@@ -115,11 +119,10 @@ bool Convert(const char* source, const char* target, const std::string& version)
   return outcome.code == 0;
 }
 
-void CheckConversion(const std::string& version, bool isWellBuilt) {
+void CheckConversion(const std::string& version, bool isSound) {
   const Streams old = StreamsOf(CompoundDocument(kOld));
   if (!Convert(kOld, "new.cfb", version)) {
-    const auto isRecord = [](const auto& stream) { return IsRecord(stream.first); };
-    Require(!isWellBuilt || std::ranges::any_of(old, isRecord), "what has no records is copied");
+    Require(!isSound, "a sound document is converted");
     return;
   }
   Require(Convert("new.cfb", "again.cfb", "890110"), "what was converted can be converted");
@@ -141,8 +144,7 @@ bool IsDocument(const std::uint8_t* data, std::size_t size) {
 /// A document hangs by the numbers of its sectors: every other change puts another one somewhere.
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
                                                std::size_t most, unsigned seed) {
-  constexpr std::uint32_t kNumbers[] = {0, 1,      2,          3,          4,
-                                        5, 0x1000, 0xFFFFFFFD, 0xFFFFFFFE, 0xFFFFFFFF};
+  constexpr std::uint32_t kNumbers[] = {0, 1, 2, 3, 4, 0xFFFFFFFD, 0xFFFFFFFE, 0xFFFFFFFF};
   if (seed % 2 == 0 || !mqp::fuzz::IsDocument(data, size)) {
     return LLVMFuzzerMutate(data, size, most);
   }
@@ -165,8 +167,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   const std::string before = ReadFile(kOld);
   if (List()) {
-    ShowRecords(version);
-    CheckConversion(version, !isDocument);
+    const bool areShown = ShowRecords(version);
+    CheckConversion(version, areShown && !isDocument);
   } else {
     Require(!Convert(kOld, "new.cfb", version), "what cannot be opened is not converted");
   }
