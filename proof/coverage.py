@@ -23,7 +23,8 @@ LIBRARY = ROOT / "mqPostCommon"
 EXCLUSIONS = ROOT / "proof/coverage_exclusions.txt"
 MAXIMUM_EXCLUSIONS = 5
 SUITES = ["mqPlatformTests", "mqCatalogueTests", "mqParamsTests",
-          "mqRecordPrimitivesTests", "mqListsTests", "mqMaterialsTests", "mqDisplayTests"]
+          "mqRecordPrimitivesTests", "mqListsTests", "mqMaterialsTests", "mqDisplayTests",
+          "mqAllocationTests"]
 
 
 def build_suites(jobs):
