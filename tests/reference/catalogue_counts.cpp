@@ -327,15 +327,15 @@ std::array<float, 4> VectorDirection(const Question& question) {
   if (line == nullptr) {
     return {0, 0, 0, 0};
   }
-  const int component = question.component;
-  if (Names(line->x, component)) return {1, 0, 0, 0};
-  if (Names(line->y, component)) return {0, 1, 0, 0};
-  if (Names(line->z, component)) return {0, 0, 1, 0};
-  if (Names(line->all, component)) return {1, 1, 1, 0};
-  if (Names(line->x2, component)) return {1, 0, 0, 2};
-  if (Names(line->y2, component)) return {0, 1, 0, 2};
-  if (Names(line->z2, component)) return {0, 0, 1, 2};
-  if (Names(line->all2, component)) return {1, 1, 1, 2};
+  const std::pair<std::string_view, std::array<float, 4>> patterns[] = {
+      {line->x, {1, 0, 0, 0}},   {line->y, {0, 1, 0, 0}},   {line->z, {0, 0, 1, 0}},
+      {line->all, {1, 1, 1, 0}}, {line->x2, {1, 0, 0, 2}},  {line->y2, {0, 1, 0, 2}},
+      {line->z2, {0, 0, 1, 2}},  {line->all2, {1, 1, 1, 2}}};
+  for (const auto& [components, direction] : patterns) {
+    if (Names(components, question.component)) {
+      return direction;
+    }
+  }
   return {0, 0, 0, 0};
 }
 
