@@ -14,6 +14,7 @@ from workshop import Finding, LIBRARIES, ROOT, demand, demand_none, text
 SYSTEM_LIBRARIES = {"kernel32.dll", "msvcrt.dll", "ole32.dll", "shell32.dll", "advapi32.dll",
                     "psapi.dll", "user32.dll"}
 COMMON_OPTIONS = {"-fstack-protector-strong", "-D_FORTIFY_SOURCE=2"}
+CONTRARY_OPTIONS = {"-fno-stack-protector", "-fcf-protection=none", "-D_FORTIFY_SOURCE=0", "-O0"}
 OPTIONS = {
     "dev": COMMON_OPTIONS | {"-fcf-protection=full"},
     "release": COMMON_OPTIONS | {"-fcf-protection=full"},
@@ -30,8 +31,9 @@ def check_commands(preset):
         missing = OPTIONS[preset] - set(words)
         missing |= set() if {"-O1", "-O2", "-O3"} & set(words) else {"-O"}
         missing |= set() if preset == "windows" or {"-fPIC", "-fPIE"} & set(words) else {"-fPIE"}
-        faults += [f"{command['file']}: {option}" for option in sorted(missing)]
-    demand_none(faults, f"sources compiled without an option ({preset})")
+        faults += [f"{command['file']}: lacks {option}" for option in sorted(missing)]
+        faults += [f"{command['file']}: has {option}" for option in CONTRARY_OPTIONS & set(words)]
+    demand_none(faults, f"sources compiled with other options ({preset})")
     return Finding(f"every source is compiled with guards of stacks and copies ({preset})",
                    len(commands), "; ".join(sorted(OPTIONS[preset])))
 

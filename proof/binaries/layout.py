@@ -7,12 +7,10 @@ tests/loading/member_layout.cpp, for both platforms.) "check --accept layout" ma
 
 import lzma
 
-from workshop import FOLDER, Finding, ROOT, demand, run
+from workshop import FOLDER, Finding, demand, run
 
 BASELINE = FOLDER / "interface.abi.xz"
-# What users of the library cannot see is no interface.
-PUBLIC = ["--headers-dir", ROOT / "mqPostCommon"]
-DESCRIBE = ["--drop-private-types", "--no-show-locs", "--no-corpus-path", "--no-comp-dir-path",
+DESCRIBE = ["--no-show-locs", "--no-corpus-path", "--no-comp-dir-path",
             "--no-write-default-sizes", "--type-id-style", "hash"]
 
 
@@ -24,7 +22,7 @@ def build_with_types(shop):
 
 def describe(shop, library):
     description = shop.scratch / "new.abi"
-    run("abidw", *DESCRIBE, *PUBLIC, "--out-file", description, library)
+    run("abidw", *DESCRIBE, "--out-file", description, library)
     BASELINE.write_bytes(lzma.compress(description.read_bytes(), preset=9 | lzma.PRESET_EXTREME))
 
 
@@ -36,8 +34,6 @@ def check(shop):
     baseline.write_bytes(lzma.decompress(BASELINE.read_bytes()))
     symbols = baseline.read_text().count("<elf-symbol ")
     demand(symbols > 100, f"{BASELINE.name} is no description of the library")
-    report = run("abidiff", "--no-added-syms", "--headers-dir2", ROOT / "mqPostCommon", baseline,
-                 library, expect=None).decode()
-    demand(not report, f"the binary interface has changed:\n{report[:4000]}")
+    run("abidiff", "--no-added-syms", baseline, library)  # ends with bits for what has changed
     return [Finding("the binary interface is compatible with the committed one", symbols,
                     "abidiff finds no difference")]
