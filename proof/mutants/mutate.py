@@ -25,6 +25,7 @@ import random
 import shutil
 import subprocess
 import sys
+import tempfile
 import threading
 import time
 from collections import Counter
@@ -348,7 +349,9 @@ def main():
         print("\n".join(mutant.key for mutant in mutants))
         return 0
 
-    verdicts, seconds = try_all(mutants, options, texts, equivalents, ROOT / "build/mutants")
+    (ROOT / "build").mkdir(exist_ok=True)
+    with tempfile.TemporaryDirectory(prefix="mutants-", dir=ROOT / "build") as scratch:
+        verdicts, seconds = try_all(mutants, options, texts, equivalents, Path(scratch))
     rows, holds = judge_gates(mutants, verdicts, seconds)
     options.results.mkdir(parents=True, exist_ok=True)
     (options.results / "mutants.json").write_text(json.dumps(rows, indent=2) + "\n")

@@ -2,12 +2,15 @@
 // text of the catalogue comes from here.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <map>
 #include <utility>
 #include <vector>
 
+#include <mqPostCommon/catalogue/components.h>
 #include <mqPostCommon/catalogue/lookup.h>
 #include <mqPostCommon/catalogue/names.h>
+#include <mqPostCommon/lists/list.h>
 #include <mqPostCommon/platform/comm_funcs.h>
 #include <mqPostCommon/platform/integers.h>
 #include <mqPostCommon/platform/text.h>
@@ -44,12 +47,21 @@ namespace {
 
 using Ids = std::vector<UINT>;
 
+/// In every list, behind its end, and the special stress of a dynamic study.
+constexpr auto kComponents = std::to_array<int>(
+    {-1, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 99, 100, 101});
+
 class OwnStringTableTest : public testing::Test {
  protected:
   OwnStringTableTest() { Table() = {}; }
 
   static void Set(UINT id, const mqChar* text) { Table().texts[id] = CString(text); }
   static Ids TakeAsked() { return std::exchange(Table().asked, {}); }
+  static void CheckThatNamesWereAsked() {
+    for (const UINT id : TakeAsked()) {
+      EXPECT_TRUE(id >= 50004 && id <= 56061) << id;  // the lowest and the highest of all names
+    }
+  }
 };
 
 TEST_F(OwnStringTableTest, NamesComeFromIt) {
@@ -112,6 +124,60 @@ TEST_F(OwnStringTableTest, NothingIsAskedForInPlaceOfABarNameOfResultTypes53And5
   EXPECT_EQ(vekPostCommonGetComponentNameBar(0, 54, 0, 5, 0, 0), MQ_TEXT(""));
   EXPECT_EQ(vekPostCommonGetComponentNameBar(0, 54, 0, 6, 0, 0), MQ_TEXT(""));
   EXPECT_EQ(TakeAsked(), (Ids{50507, 51761}));
+}
+
+// A wrong id that no table has would pass for a missing name.
+
+TEST_F(OwnStringTableTest, NothingButNamesIsAskedForWhateverTheCodes) {
+  for (const int flag : {0, 1}) {
+    vekPostCommonSetActualFreqDispFlag(flag);
+    for (int study = -1; study <= 12; ++study) {
+      for (int result = -1; result <= 74; ++result) {
+        SCOPED_TRACE(testing::Message()
+                     << "display flag " << flag << ", study " << study << ", result " << result);
+        vekPostCommonGetResultName(result);
+        for (const int option : {0, 1}) {
+          vekPostCommonGetGraphNameForReport(study, result, option, option);
+          vekPostCommonGetComponentIndexByName(study, result, option, MQ_TEXT("none"), 0);
+        }
+        for (const int component : kComponents) {
+          for (const int meshKind : {0, 4}) {
+            for (const int option : {0, 1}) {
+              vekPostCommonGetComponentName(study, result, 0, component, meshKind, option);
+              vekPostCommonGetComponentNameBar(study, result, 0, component, meshKind, option);
+            }
+          }
+          vekPostCommonGetComponentNameBrief(study, result, 0, component);
+        }
+        CheckThatNamesWereAsked();
+      }
+    }
+  }
+  vekPostCommonSetActualFreqDispFlag(0);
+  vekPostCommonGetResultTypeByComponentName(MQ_TEXT("none"));
+  CheckThatNamesWereAsked();
+}
+
+TEST_F(OwnStringTableTest, NothingButNamesIsAskedForWhateverTheListSet) {
+  for (const int study : {0, 1, 5, 8}) {
+    for (int result = 0; result <= 21; ++result) {
+      for (int kind = -1; kind <= 5; ++kind) {
+        SCOPED_TRACE(testing::Message()
+                     << "study " << study << ", result " << result << ", kind " << kind);
+        CVekPostListParam list;
+        list.m_nAnalysisType = study;
+        list.m_nResultType = result;
+        list.m_nListSetFlag = 1;
+        list.m_nListSetKind = kind;
+        for (const int component : kComponents) {
+          static_cast<void>(list.GetComponentName(component));
+          list.m_nComponent = component;
+          static_cast<void>(list.GetComponentIndexByListSet());
+        }
+        CheckThatNamesWereAsked();
+      }
+    }
+  }
 }
 
 TEST_F(OwnStringTableTest, NoCandidateIsFoundInAnEmptyTable) {

@@ -199,6 +199,15 @@ TEST(AssemblyList, AnIndexOutsideTheListIsRefusedAndNothingChanges) {
   }
 }
 
+TEST(AssemblyList, AnIndexOutsideIsCalledOne) {
+  try {
+    static_cast<void>(Numbered(3).GetAt(3));
+    FAIL() << "nothing was raised";
+  } catch (const CInvalidArgException& exception) {
+    EXPECT_STREQ(exception.what(), "a component index lies outside the list");
+  }
+}
+
 TEST(AssemblyList, ACopyHasComponentsAndValuesOfItsOwn) {
   CDspAsmCompList source;
   source.Add(Filled(10), 70);
