@@ -185,7 +185,7 @@ class Preset:
 
     def _link(self, target, first, others, extra):
         compiler = self.commands[others[0]][1][0]
-        flags = [word for word in self.commands[others[0]][1] if word.startswith("-fsanitize")]
+        flags = [word for word in self.commands[others[0]][1] if word.startswith(("-fsanitize", "-fprofile"))]
         # The changed objects go first: of an inline function in several objects that is taken.
         objects = [*first.values(), *(self.folder / other for other in others if other not in first)]
         code, output = run([compiler, *flags, "-fuse-ld=lld", "-o", target, *map(str, objects), *extra],
