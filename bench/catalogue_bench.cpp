@@ -1,15 +1,13 @@
-// One query of each function family, and a graph record, with random arguments drawn beforehand.
+// One query of each function family, with random arguments drawn beforehand.
 
 #include <array>
 #include <random>
-#include <thread>
 #include <vector>
 
-#include <storage/memory_stream.h>
 #include <mqPostCommon/mqPostCommon.h>
 
 #include "empty_functions.h"
-#include "ratio_table.h"
+#include "family.h"
 
 namespace mqp::bench {
 namespace {
@@ -26,7 +24,7 @@ struct Query {
 const std::vector<Query>& Queries() {
   static const std::vector<Query> queries = [] {
     std::mt19937 random(20260101);
-    std::vector<Query> drawn(4096);
+    std::vector<Query> drawn(kDrawn);
     for (Query& query : drawn) {
       const auto any = [&](int last) { return std::uniform_int_distribution(0, last)(random); };
       const auto study = static_cast<std::size_t>(any(kAnalysisTypeNames.size() - 1));
@@ -39,27 +37,17 @@ const std::vector<Query>& Queries() {
   return queries;
 }
 
-/// Registers an operation and its limit; both are called with the same queries.
-template <class Ours, class Limit>
-void Compare(const std::string& operation, Ours ours, Limit limit) {
-  const auto loop = [](benchmark::State& state, auto call) {
-    const std::vector<Query>& queries = Queries();
-    std::size_t place = 0;
-    for (auto _ : state) {
-      call(queries[place]);
-      place = (place + 1) % queries.size();
-    }
-  };
-  const std::string prefix = operation + "/";
-  benchmark::RegisterBenchmark((prefix + kOurs).c_str(),
-                               [=](benchmark::State& state) { loop(state, ours); });
-  benchmark::RegisterBenchmark((prefix + kLimit).c_str(),
-                               [=](benchmark::State& state) { loop(state, limit); });
+/// Registers a variant that is asked with random codes.
+template <class Call>
+void Ask(const std::string& operation, const std::string& variant, Call call) {
+  Add(operation, variant, [call](std::size_t place) { call(Queries()[place]); });
 }
 
-template <class Value>
-void Keep(Value&& value) {
-  benchmark::DoNotOptimize(value);
+/// An operation and its limit.
+template <class Ours, class Limit>
+void Compare(const std::string& operation, Ours ours, Limit limit) {
+  Ask(operation, kOurs, ours);
+  Ask(operation, kLimit, limit);
 }
 
 void RegisterNumbers() {
@@ -174,52 +162,11 @@ void RegisterTexts() {
       [name](const Query&) { Keep(EmptyLookup(0, 2, 0, name, 0)); });
 }
 
-/// The same bytes in one call of the stream.
-void RegisterRecords() {
-  static const std::vector<std::byte> record = [] {
-    CmqPostGraphParam graph;
-    graph.m_strHost18[0] = MQ_TEXT("Graph 1");
-    host::MemoryStream stream;
-    graph.WriteToStream(&stream);
-    return stream.Bytes();
-  }();
-  static host::MemoryStream stream(record);
-  static CmqPostGraphParam graph;
-  static std::vector<std::byte> bytes(record.size());
-  Compare(
-      "graph record, written to memory",
-      [](const Query&) {
-        stream.Rewind();
-        graph.WriteToStream(&stream);
-      },
-      [](const Query&) {
-        stream.Rewind();
-        stream.Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
-      });
-  Compare(
-      "graph record, read from memory",
-      [](const Query&) {
-        stream.Rewind();
-        graph.ReadFromStream(&stream, kNewestRecordVersion);
-      },
-      [](const Query&) {
-        stream.Rewind();
-        stream.Read(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
-      });
-}
-
 }  // namespace
 }  // namespace mqp::bench
 
 int main(int argc, char** argv) {
-  // A second thread makes the process pay for locked instructions, as the host's process does.
-  std::jthread second([](const std::stop_token& stop) {
-    while (!stop.stop_requested()) {
-      std::this_thread::sleep_for(std::chrono::milliseconds(100));
-    }
-  });
   mqp::bench::RegisterNumbers();
   mqp::bench::RegisterTexts();
-  mqp::bench::RegisterRecords();
-  mqp::bench::RunAsRatioTable(argc, argv);
+  return mqp::bench::RunFamily(argc, argv);
 }

@@ -1,0 +1,38 @@
+"""What `bench/run` holds the operations to.
+
+A goal is (most, than): our time is at most so many times that of the variant `than`. Less than 1
+means that many times faster. "peers" stands for each variant but ours and the limit.
+"""
+
+import collections
+
+Goal = collections.namedtuple("Goal", "most than")
+# `bound_by_memory`: the times of rows that wait for memory differ more from run to run.
+Row = collections.namedtuple("Row", "operation goals bound_by_memory", defaults=[False])
+
+LIMIT = "limit"
+PEERS = "peers"
+SLACK, SLACK_OF_MEMORY = 1.15, 1.40
+
+
+def rows(operations, *goals, bound_by_memory=False):
+    return [Row(operation, [Goal(*goal) for goal in goals], bound_by_memory)
+            for operation in operations]
+
+
+# By program, in the order of the table. An operation that grows with a number of records has a
+# time for each number, and the goals hold for all of them.
+FAMILIES = {
+    "mqCatalogueBench": [
+        *rows(["component total", "data type with members", "default component",
+               "envelope bounds", "reference availability", "unit type",
+               "default unit of a system", "vector direction"],
+              (2.5, LIMIT)),
+        *rows(["full name", "colour-bar name", "unit name"]),
+        *rows(["name to component, 10 candidates tried"]),
+    ],
+    "mqRecordsBench": [
+        *rows(["graph record, written to memory"], (3.0, LIMIT)),
+        *rows(["graph record, read from memory"], (8.0, LIMIT)),
+    ],
+}
