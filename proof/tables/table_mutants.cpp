@@ -38,6 +38,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -220,6 +221,11 @@ Bytes ReadBytes(const std::string& digits) {
   return bytes;
 }
 
+/// The first copy of each table is the library's, whose reads are told.
+Address BeginOf(const Mutant& mutant) {
+  return copies[mutant.table].front() + mutant.offset;
+}
+
 void ReadWork(const char* path) {
   const std::map<std::string, Address> objects = LoadedObjects();
   std::ifstream file(path);
@@ -236,23 +242,21 @@ void ReadWork(const char* path) {
         copies[number].push_back(found->second + address);
       }
     } else {
-      Mutant& mutant = mutants.emplace_back();
+      Mutant mutant;
       mutant.id = number;
       file >> mutant.table >> mutant.offset >> text;
       mutant.bytes = ReadBytes(text);
-      const auto* const original =
-          reinterpret_cast<const unsigned char*>(copies[mutant.table].at(0) + mutant.offset);
+      if (copies[mutant.table].empty()) {
+        continue;  // a program without the library cannot tell its mutants
+      }
+      const auto* const original = reinterpret_cast<const unsigned char*>(BeginOf(mutant));
       mutant.original.assign(original, original + mutant.bytes.size());
+      mutants.push_back(std::move(mutant));
     }
   }
-  if (!file.eof() || mutants.empty()) {
+  if (!file.eof()) {
     Fail("the list of work cannot be read");
   }
-}
-
-/// The first copy of each table is the library's, whose reads are told.
-Address BeginOf(const Mutant& mutant) {
-  return copies[mutant.table].front() + mutant.offset;
 }
 
 void PutMutantsInPlace() {
@@ -293,7 +297,9 @@ int Begin() {
     }
     return 0;
   }
-  PutMutantsInPlace();
+  if (!mutants.empty()) {
+    PutMutantsInPlace();
+  }
   readInPiece.reserve(mutants.size());
   MakeTrial();
   isWatching = mode == "read";
