@@ -6,6 +6,7 @@
 #include <array>
 #include <cinttypes>
 #include <climits>
+#include <cmath>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
@@ -17,6 +18,7 @@
 #include <vector>
 
 #include <mqPostCommon/mqPostCommon.h>
+#include <mqPostCommon/platform/case_folding.h>
 #include <mqPostCommon/platform/comm_funcs.h>
 #include <mqPostCommon/platform/preference.h>
 
@@ -43,7 +45,7 @@ namespace {
 // ---------------------------------------------------------------------------------------------
 // Answers and pieces
 
-/// The answers of one piece of work in one number.
+/// The answers of one piece of work, and the texts that it asked for, in one number.
 class Answers {
  public:
   void Add(std::integral auto answer) {
@@ -103,7 +105,11 @@ class Walk {
   template <class Work>
   static std::uint64_t SumOf(const Work& work) {
     Answers answers;
+    AskedIds().clear();
     work(answers);
+    for (const UINT id : AskedIds()) {
+      answers.Add(id);
+    }
     return answers.Sum();
   }
 
@@ -128,11 +134,17 @@ const std::vector<int> kStudies = FromTo(-1, 13, {INT_MIN, 256, INT_MAX});
 const std::vector<int> kResults = FromTo(-2, 76, {INT_MIN, 256, INT_MAX});
 const std::vector<int> kComponents =
     FromTo(-1, 32, {INT_MIN, 64, 99, 100, 101, 127, 128, 256, 65536, INT_MAX});
+const std::vector<int> kManyComponents = FromTo(-1, 128, {INT_MIN, 256, 65536, INT_MAX});
 const std::vector<int> kMeshKinds = FromTo(-1, 5, {INT_MAX});
 constexpr std::array kSwitch = {0, 1};
 constexpr std::array kThreeValues = {0, 1, 2};
 constexpr std::array kFourValues = {0, 1, 2, 3};
 constexpr mqTextView kNoSuchText = MQ_TEXT("?");
+
+/// The lists of a dynamic stress alone reach to component 100.
+std::span<const int> ComponentsOf(int study, int result) {
+  return study == 8 && result == 2 ? kManyComponents : kComponents;
+}
 
 template <class Work>
 void ForEachCell(Walk& walk, Work work) {
@@ -174,7 +186,7 @@ void AskTotals(Answers& answers, int study, int result) {
 }
 
 void AskTypesAndBounds(Answers& answers, int study, int result) {
-  for (const int component : kComponents) {
+  for (const int component : ComponentsOf(study, result)) {
     for (const int choice : kSwitch) {
       std::array members = {-7, -7, -7};
       answers.Add(
@@ -191,7 +203,7 @@ void AskTypesAndBounds(Answers& answers, int study, int result) {
 }
 
 void AskDirections(Answers& answers, int study, int result) {
-  for (const int component : kComponents) {
+  for (const int component : ComponentsOf(study, result)) {
     for (const int variant : kSwitch) {
       std::array<float, 4> direction{};
       vekPostCommonGetComponentVectorDir(study, result, component, variant, direction.data());
@@ -204,7 +216,7 @@ void AskDirections(Answers& answers, int study, int result) {
 
 void AskNames(Answers& answers, int study, int result) {
   ForEachDisplayFlag([&] {
-    for (const int component : kComponents) {
+    for (const int component : ComponentsOf(study, result)) {
       for (const int mesh : {0, 4}) {
         for (const int choice : kSwitch) {
           answers.Add(vekPostCommonGetComponentName(study, result, 0, component, mesh, choice));
@@ -224,7 +236,7 @@ void AskNames(Answers& answers, int study, int result) {
 
 void AskUnits(Answers& answers, int study, int result) {
   ForEachDisplayFlag([&] {
-    for (const int component : kComponents) {
+    for (const int component : ComponentsOf(study, result)) {
       for (const int option : {1, 2}) {
         for (const int flag : kSwitch) {
           answers.Add(vekPostCommonGetUnitType(study, result, component, option, flag));
@@ -238,17 +250,19 @@ void AskUnits(Answers& answers, int study, int result) {
   });
 }
 
+std::vector<UINT> AskedSince(std::size_t begin) {
+  return {AskedIds().begin() + static_cast<std::ptrdiff_t>(begin), AskedIds().end()};
+}
+
 /// The candidates are those texts that are compared with a name that is none.
 void AskLookUp(Answers& answers, int study, int result) {
   for (const int variant : kSwitch) {
-    AskedIds().clear();
+    const std::size_t begin = AskedIds().size();
     answers.Add(
         vekPostCommonGetComponentIndexByName(study, result, variant, CString(kNoSuchText), 1));
-    const std::vector<UINT> candidates = AskedIds();
-    for (const UINT id : candidates) {
+    for (const UINT id : AskedSince(begin)) {
       CString name;
       mqpLoadString(name, id);
-      answers.Add(name);
       answers.Add(vekPostCommonGetComponentIndexByName(study, result, variant, name, 1));
     }
   }
@@ -265,13 +279,11 @@ void AskResult(Answers& answers, int result) {
 }
 
 void AskResultsByName(Answers& answers) {
-  AskedIds().clear();
+  const std::size_t begin = AskedIds().size();
   answers.Add(vekPostCommonGetResultTypeByComponentName(CString(kNoSuchText)));
-  const std::vector<UINT> candidates = AskedIds();
-  for (const UINT id : candidates) {
+  for (const UINT id : AskedSince(begin)) {
     CString name;
     mqpLoadString(name, id);
-    answers.Add(name);
     answers.Add(vekPostCommonGetResultTypeByComponentName(name));
   }
 }
@@ -455,9 +467,10 @@ void AskOfferedNames(Answers& answers, int first, int study, mqTextView name) {
 
 void WalkEquations(Walk& walk) {
   // Texts of components of each of the five results, whole, and longer than their key.
-  constexpr std::array<mqTextView, 6> kNames = {MQ_TEXT("\"54592\""),    MQ_TEXT("\"54010\""),
-                                                MQ_TEXT("\"54604\""),    MQ_TEXT("\"54579\""),
-                                                MQ_TEXT("\"54010: a\""), MQ_TEXT("\"54579: a\"")};
+  constexpr auto kNames = std::to_array<mqTextView>(
+      {MQ_TEXT("\"54592\""), MQ_TEXT("\"54010\""), MQ_TEXT("\"54604\""), MQ_TEXT("\"54579\""),
+       MQ_TEXT("\"54613\""), MQ_TEXT("\"54592: a\""), MQ_TEXT("\"54010: a\""),
+       MQ_TEXT("\"54604: a\""), MQ_TEXT("\"54579: a\""), MQ_TEXT("\"54613: a\"")});
   for (const mqTextView name : kNames) {
     walk.Piece([&](Answers& answers) {
       for (int first = 0; first <= 5; ++first) {
@@ -519,16 +532,17 @@ struct StrengthMembers {
   double CmqpMaterialData::* value;
   int CmqpMaterialData::* varies;
   CmqTemperatureCurve CmqpMaterialData::* curve;
+  CmqTemperatureCurve* (CmqpMaterialData::*getCurve)() noexcept;
 };
 
 // clang-format off
 constexpr auto kStrengthMembers = std::to_array<StrengthMembers>({
-    { &CmqpMaterialData::m_bHasSIGYLD, &CmqpMaterialData::m_dSIGYLD, &CmqpMaterialData::m_bSIGYLDTempDepend, &CmqpMaterialData::m_SIGYLDTempCurve },
-    { &CmqpMaterialData::m_bHasSIGXT,  &CmqpMaterialData::m_dSIGXT,  &CmqpMaterialData::m_bSIGXTTempDepend,  &CmqpMaterialData::m_SIGXTTempCurve  },
-    { &CmqpMaterialData::m_bHasSIGXC,  &CmqpMaterialData::m_dSIGXC,  &CmqpMaterialData::m_bSIGXCTempDepend,  &CmqpMaterialData::m_SIGXCTempCurve  },
-    { &CmqpMaterialData::m_bHasSIGYT,  &CmqpMaterialData::m_dSIGYT,  &CmqpMaterialData::m_bSIGYTTempDepend,  &CmqpMaterialData::m_SIGYTTempCurve  },
-    { &CmqpMaterialData::m_bHasSIGYC,  &CmqpMaterialData::m_dSIGYC,  &CmqpMaterialData::m_bSIGYCTempDepend,  &CmqpMaterialData::m_SIGYCTempCurve  },
-    { &CmqpMaterialData::m_bHasSIGXY,  &CmqpMaterialData::m_dSIGXY,  &CmqpMaterialData::m_bSIGXYTempDepend,  &CmqpMaterialData::m_SIGXYTempCurve  },
+    { &CmqpMaterialData::m_bHasSIGYLD, &CmqpMaterialData::m_dSIGYLD, &CmqpMaterialData::m_bSIGYLDTempDepend, &CmqpMaterialData::m_SIGYLDTempCurve, &CmqpMaterialData::GetSIGYLDTempCurve },
+    { &CmqpMaterialData::m_bHasSIGXT,  &CmqpMaterialData::m_dSIGXT,  &CmqpMaterialData::m_bSIGXTTempDepend,  &CmqpMaterialData::m_SIGXTTempCurve, &CmqpMaterialData::GetSIGXTTempCurve  },
+    { &CmqpMaterialData::m_bHasSIGXC,  &CmqpMaterialData::m_dSIGXC,  &CmqpMaterialData::m_bSIGXCTempDepend,  &CmqpMaterialData::m_SIGXCTempCurve, &CmqpMaterialData::GetSIGXCTempCurve  },
+    { &CmqpMaterialData::m_bHasSIGYT,  &CmqpMaterialData::m_dSIGYT,  &CmqpMaterialData::m_bSIGYTTempDepend,  &CmqpMaterialData::m_SIGYTTempCurve, &CmqpMaterialData::GetSIGYTTempCurve  },
+    { &CmqpMaterialData::m_bHasSIGYC,  &CmqpMaterialData::m_dSIGYC,  &CmqpMaterialData::m_bSIGYCTempDepend,  &CmqpMaterialData::m_SIGYCTempCurve, &CmqpMaterialData::GetSIGYCTempCurve  },
+    { &CmqpMaterialData::m_bHasSIGXY,  &CmqpMaterialData::m_dSIGXY,  &CmqpMaterialData::m_bSIGXYTempDepend,  &CmqpMaterialData::m_SIGXYTempCurve, &CmqpMaterialData::GetSIGXYTempCurve  },
 });
 // clang-format on
 
@@ -546,6 +560,42 @@ void AskMaterial(Answers& answers, CmqpMaterialData& material) {
         &CmqpMaterialData::IsSIGXCTempDepend, &CmqpMaterialData::IsSIGYTTempDepend,
         &CmqpMaterialData::IsSIGYCTempDepend, &CmqpMaterialData::IsSIGXYTempDepend}) {
     answers.Add((material.*varies)());
+  }
+}
+
+/// A count of points that is seen when it is read a byte too early or too late.
+constexpr std::array kPointTotals = {0, 1, 0x800000, 0x1000000};
+
+void AskAboutMembers(Answers& answers, const StrengthMembers& strength) {
+  for (const int has : kSwitch) {
+    for (const int varies : kSwitch) {
+      for (const int points : kPointTotals) {
+        CmqpMaterialData material;
+        material.*strength.has = has;
+        material.*strength.varies = varies;
+        (material.*strength.curve).m_nPoints = points;
+        AskMaterial(answers, material);
+        for (const StrengthMembers& other : kStrengthMembers) {
+          answers.Add((material.*other.getCurve)() == &(material.*other.curve));
+        }
+      }
+    }
+  }
+}
+
+/// Values that differ from the record's in their first byte, in their last, and in others.
+void AskAboutSameness(Answers& answers, const CmqpMaterialData& material,
+                      const StrengthMembers& strength) {
+  for (const int has : {7, 0x1000000}) {
+    CmqpMaterialData changed = material;
+    changed.*strength.has += has;
+    answers.Add(material.IsSameValueForDesignCheck(changed));
+  }
+  const double value = material.*strength.value;
+  for (const double other : {7.0, -value, std::nextafter(value, 100.0)}) {
+    CmqpMaterialData changed = material;
+    changed.*strength.value = other;
+    answers.Add(material.IsSameValueForDesignCheck(changed));
   }
 }
 
@@ -568,23 +618,22 @@ void AskAboutStrength(Answers& answers, const StrengthMembers& strength, int cri
   plot.m_nCriterionOptions[0] = option;
   answers.Add(list.IsTemperatureDependentFOSCriterion(&plot));
   for (const StrengthMembers& other : kStrengthMembers) {
-    CmqpMaterialData changed = material;
-    changed.*other.has = 7;
-    answers.Add(material.IsSameValueForDesignCheck(changed));
-    changed = material;
-    changed.*other.value = 7;
-    answers.Add(material.IsSameValueForDesignCheck(changed));
+    AskAboutSameness(answers, material, other);
   }
   material.ConstructorInit();
   AskMaterial(answers, material);
   for (const StrengthMembers& other : kStrengthMembers) {
-    answers.Add((material.*other.curve).m_nPoints);
+    const CmqTemperatureCurve& curve = material.*other.curve;
+    answers.Add(curve.m_nPoints);
+    answers.Add(curve.m_vecX.size());
+    answers.Add(curve.m_vecY.size());
   }
 }
 
 void WalkMaterials(Walk& walk) {
   for (const StrengthMembers& strength : kStrengthMembers) {
     walk.Piece([&](Answers& answers) {
+      AskAboutMembers(answers, strength);
       for (int criterion = -1; criterion <= 5; ++criterion) {
         for (const int option : kThreeValues) {
           AskAboutStrength(answers, strength, criterion, option);
@@ -594,21 +643,35 @@ void WalkMaterials(Walk& walk) {
   }
 }
 
-/// Which code units are the same without case: of every class the first.
-void AskCaseFolding(Answers& answers) {
-  static CmqpMaterialDataList* const everyUnit = [] {
-    auto* list = new CmqpMaterialDataList;  // for the whole run: it takes long to make
-    CmqpMaterialData material;
-    for (int unit = 0; unit <= 0xFFFF; ++unit) {
-      material.m_strMaterialName = CString(static_cast<mqChar>(unit), 1);
-      list->Add(material);
+/// The units at both ends of each range and inside.
+std::vector<int> UnitsAtRanges() {
+  std::set<int> units;
+  for (const FoldingRange& range : kFoldingRanges) {
+    for (int step = -3; step <= 3; ++step) {
+      units.insert({range.first + step, range.last + step});
     }
-    return list;
-  }();
-  std::vector<int> firsts;
-  answers.Add(everyUnit->GetUniqueMaterialList(firsts));
-  for (const int first : firsts) {
-    answers.Add(first);
+  }
+  return {units.begin(), units.end()};
+}
+
+CmqpMaterialDataList NamesOf(std::span<const int> units) {
+  CmqpMaterialDataList names;
+  CmqpMaterialData material;
+  for (const int unit : units) {
+    material.m_strMaterialName = CString(static_cast<mqChar>(unit), 1);
+    names.Add(material);
+  }
+  return names;
+}
+
+/// The ranges are in this program as well, and change with those of the library.
+void AskCaseFolding(Answers& answers) {
+  static const std::vector<int> units = UnitsAtRanges();
+  static const CmqpMaterialDataList names = NamesOf(units);
+  std::vector<int> indices;
+  answers.Add(names.GetUniqueMaterialList(indices));
+  for (const int unit : units) {
+    answers.Add(static_cast<std::uint32_t>(FoldCase(static_cast<mqChar>(unit))));
   }
 }
 

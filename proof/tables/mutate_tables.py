@@ -14,10 +14,10 @@ changes on. The tables of that library are compared with those of the one that i
 
 What no answer of the library tells from the original is no gap of the tests. fingerprint.cpp asks
 the library everything that its tables decide; a mutant is equivalent when all of its answers are
-the same. Each one is listed in equivalents.json with the reason, and the run fails when the list
-and what came out differ: an equivalent that is not listed, or a listed one that is none. Those
-that are never read are then changed all together in the library that is shipped, and its answers
-must be the same.
+the same. Each one is listed in equivalents.json with the reason and asked again in every run, which
+fails when the list and what came out differ: an equivalent that is not listed, or a listed one that
+is none, because an answer or a test tells it. Those that are never read are then changed all
+together in the library that is shipped, and its answers must be the same.
 
 Needs the Debian packages python3-pyelftools, binutils and clang-19 besides those that build the
 tests, and x86-64 Linux.
@@ -40,12 +40,12 @@ import tempfile
 import time
 
 import tables
+from equivalents import Equivalents
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BIN = ROOT / "build/dev/bin"
 TOLD = ROOT / "build/tables"  # where the library tells its reads
 LIBRARY = "libmqPostCommon.so.0"
-EQUIVALENTS = pathlib.Path(__file__).with_name("equivalents.json")
 
 SUITES = ("mqCatalogueTests", "mqListsTests", "mqMaterialsTests", "mqParamsTests",
           "mqDisplayTests", "mqPlatformTests", "mqInterpositionTests")
@@ -96,7 +96,7 @@ FIRST_TRIES = {
     "g_UnitLists": "mqCatalogueTests/UnitLists.*",
     "kSets|kFatigueSetNames": "mqInterpositionTests/* mqListsTests/*",
     "g_strMat.*|kSorted": "mqMaterialsTests/PropertyTables.*",
-    "kS[IT].*": "mqMaterialsTests/Material*",
+    "kS[IT].*": "mqMaterialsTests/Material.*",
     "kFoldingRanges": "mqPlatformTests/CaseFolding.*",
     'text "a component index.*': "mqDisplayTests/AssemblyList.AnIndexOutsideIsCalledOne",
     'text "[A-Z].*|text "."': "mqParamsTests/Graph* mqParamsTests/Equation*",
@@ -104,6 +104,7 @@ FIRST_TRIES = {
     "kOfferedNames|kBeamStressNames": "mqParamsTests/EquationPlot* mqParamsTests/Graph*",
 }
 
+SHOWN_LINES = 200
 EXCHANGED = "exchanged with the next"
 Mutant = collections.namedtuple("Mutant", "id table offset bytes member rows change text")
 
@@ -111,12 +112,13 @@ Mutant = collections.namedtuple("Mutant", "id table offset bytes member rows cha
 # -------------------------------------------------------------------------------------------------
 # Programs
 
-# Each read is a call, also of what is read as a block.
+# Each read is a call, also of what is read as a block. Functions are neither inlined nor made for
+# one caller alone, or the code would have the cells of small tables among its own numbers.
 TELLING = ("-fsanitize=kernel-address -mllvm -asan-instrumentation-with-call-threshold=0 "
            "-mllvm -asan-globals=0 -mllvm -asan-stack=0 -mllvm -asan-opt=0 "
-           "-mllvm -asan-kernel-mem-intrinsic-prefix=1 -fno-builtin-memcmp -fno-builtin-bcmp "
-           "-Wno-unused-command-line-argument")
-KNOWN_READERS = {"memcmp", "qsort"}  # told by table_mutants.cpp; sorts no table
+           "-mllvm -asan-kernel-mem-intrinsic-prefix=1 -fno-inline -mllvm -funcspec-max-iters=0 "
+           "-fno-builtin-memcmp -fno-builtin-bcmp -Wno-unused-command-line-argument")
+KNOWN_READERS = {"memcmp", "strlen", "qsort"}  # told by table_mutants.cpp; sorts no table
 
 
 def build(jobs):
@@ -143,24 +145,23 @@ def build(jobs):
 
 
 def tables_of_both():
-    """The tables of the library that tells its reads, and those that the shipped one has alone."""
+    """The tables of the shipped library, and the addresses in the one that tells its reads."""
     with open(TOLD / "bin" / LIBRARY, "rb") as file:
         variables = tables.variables_of(tables.ELFFile(file))
         telling = tables.Library(TOLD / "bin" / LIBRARY, variables)
         shipped = tables.Library(BIN / LIBRARY, variables)
     contents = {table.name: table.data for table in telling.tables}
-    both, alone = [], []
     for table in shipped.tables:
-        if table.name not in contents:
-            alone.append(table)
-        elif contents[table.name] != table.data:
+        if not is_narrow(table) and contents.get(table.name) != table.data:
             raise SystemExit(f"{table.name} differs between the two libraries")
-        else:
-            both.append(table)
     for why, size in shipped.left_out.items():
         print(f"left out: {size} bytes, {why}")
-    addresses = {table.name: table.address for table in telling.tables}
-    return both + alone, addresses
+    return shipped.tables, {table.name: table.address for table in telling.tables}
+
+
+def is_narrow(table):
+    """A text that the library hands to the standard library, which tells no reads."""
+    return not table.symbol and table.leaves[0].width == 1
 
 
 class Runner:
@@ -172,7 +173,7 @@ class Runner:
         self.numbers = itertools.count()
 
     def write_work(self, path, program, mutants, folder):
-        own = tables.addresses_in(BIN / program)
+        own = tables.addresses_in(program)
         with open(path, "w", encoding="ascii") as file:
             for number in sorted({mutant.table for mutant in mutants}):
                 table = self.tables[number]
@@ -180,33 +181,26 @@ class Runner:
                 file.write(f"copy {number:x} {LIBRARY} {address:x}\n")
                 # A table of a header, or one that a program names, is in the program as well.
                 if (table.symbol, len(table.data)) in own:
-                    file.write(f"copy {number:x} {program} {own[table.symbol, len(table.data)]:x}\n")
+                    file.write(f"copy {number:x} {program.name} {own[table.symbol, len(table.data)]:x}\n")
             for mutant in mutants:
                 file.write(f"mutant {mutant.id:x} {mutant.table:x} {mutant.offset:x} "
                            f"{mutant.bytes.hex()}\n")
 
-    def is_told(self, mutant, program):
-        """Whether each read of what a mutant changes is told while this program runs."""
-        table = self.tables[mutant.table]
-        is_read_by_tests = (table.symbol.startswith("g_") or
-                            (table.symbol, len(table.data)) in tables.addresses_in(BIN / program))
-        return self.is_told_by_library(mutant) and not is_read_by_tests
-
-    def is_told_by_library(self, mutant):
-        """Narrow texts go to the standard library, which tells nothing."""
-        table = self.tables[mutant.table]
-        return table.name in self.told_addresses and (table.symbol or table.leaves[0].width > 1)
+    def is_told(self, table, program):
+        """Whether each read of a table is told while this program runs; not when tests read it."""
+        return not (is_narrow(table) or table.symbol.startswith("g_") or
+                    (table.symbol, len(table.data)) in tables.addresses_in(BIN / program))
 
     def run(self, program, mutants, mode, folder=TOLD / "bin", test_filter=None):
         """What the program says, and the outcome of each mutant that was run, by its id."""
         place = self.folder / str(next(self.numbers))
         work, outcomes, log = (place.with_suffix(end) for end in (".work", ".outcomes", ".log"))
-        self.write_work(work, program, mutants, folder)
+        is_suite = test_filter is not None
+        command = [(BIN if is_suite else folder) / program]
+        self.write_work(work, command[0], mutants, folder)
         environment = dict(os.environ, LD_PRELOAD=str(BIN / "libmqTableMutants.so"), MQ_MODE=mode,
                            MQ_MUTANTS=str(work), MQ_OUTCOMES=str(outcomes),
                            LD_LIBRARY_PATH=str(folder))
-        is_suite = test_filter is not None
-        command = [(BIN if is_suite else folder) / program]
         if is_suite:
             command += ["--gtest_break_on_failure", f"--gtest_filter={test_filter}"]
         outcomes.touch()
@@ -225,14 +219,12 @@ class Runner:
     def run_suite(self, program, test_filter, mutants):
         """The outcomes; a mutant of what the tests do not read has none."""
         found = {}
-        groups = collections.defaultdict(list)
-        for mutant in mutants:
-            is_shipped_alone = self.tables[mutant.table].name not in self.told_addresses
-            groups["read" if self.is_told(mutant, program) else "start",
-                   BIN if is_shipped_alone else TOLD / "bin"].append(mutant)
-        for (mode, folder), group in groups.items():
-            found.update(self.run(program, group, mode, folder,
-                                  f"{test_filter}:{LEFT_OUT_TESTS}")[1])
+        for is_told, mode, folder in ((True, "read", TOLD / "bin"), (False, "start", BIN)):
+            group = [mutant for mutant in mutants
+                     if self.is_told(self.tables[mutant.table], program) == is_told]
+            if group:
+                found.update(self.run(program, group, mode, folder,
+                                      f"{test_filter}:{LEFT_OUT_TESTS}")[1])
         return {number: outcome_of(status) for number, status in found.items()}
 
 
@@ -347,92 +339,6 @@ def text_of(table, offset):
 
 
 # -------------------------------------------------------------------------------------------------
-# The list of equivalents
-
-
-def key_of(all_tables, mutant):
-    return all_tables[mutant.table].name, mutant.member, mutant.change
-
-
-def write_rows(rows):
-    """(3, 4), (3, 5), (3, 7) as 3:4-5,7; rows with one index without the colon."""
-    lines = []
-    for front, group in itertools.groupby(sorted(rows), key=lambda row: row[:-1]):
-        ranges = []
-        for row in group:
-            last = row[-1] if row else 0
-            if ranges and ranges[-1][1] == last - 1:
-                ranges[-1][1] = last
-            else:
-                ranges.append([last, last])
-        text = ",".join(str(low) if low == high else f"{low}-{high}" for low, high in ranges)
-        lines.append(":".join([*map(str, front), text]))
-    return " ".join(lines)
-
-
-def read_rows(text):
-    rows = set()
-    for group in text.split():
-        *front, ranges = group.split(":")
-        for part in ranges.split(","):
-            low, _, high = part.partition("-")
-            for last in range(int(low), int(high or low) + 1):
-                rows.add((*map(int, front), last))
-    return rows
-
-
-def read_equivalents():
-    if not EQUIVALENTS.exists():
-        return {}, []
-    content = json.loads(EQUIVALENTS.read_text(encoding="utf-8"))
-    listed = {(entry["table"], entry["member"], entry["change"]): read_rows(entry["rows"])
-              for entry in content["equivalents"]}
-    return listed, content["reasons"]
-
-
-def is_listed(all_tables, listed, mutant):
-    return (mutant.rows or (0,)) in listed.get(key_of(all_tables, mutant), ())
-
-
-def reason_for(reasons, key):
-    for reason in reasons:
-        if all(re.fullmatch(reason[name], part)
-               for name, part in zip(("table", "member", "change"), key)):
-            return reason["reason"]
-    return None
-
-
-def write_equivalents(all_tables, equivalents, reasons):
-    rows = collections.defaultdict(set)
-    for mutant in equivalents:
-        rows[key_of(all_tables, mutant)].add(mutant.rows or (0,))
-    entries = [dict(zip(("table", "member", "change"), key), rows=write_rows(found))
-               for key, found in sorted(rows.items())]
-    lines = ",\n".join("    " + json.dumps(entry, ensure_ascii=False) for entry in entries)
-    reason_lines = ",\n".join("    " + json.dumps(reason, ensure_ascii=False)
-                              for reason in reasons)
-    EQUIVALENTS.write_text('{\n  "reasons": [\n' + reason_lines + '\n  ],\n  "equivalents": [\n' +
-                           lines + "\n  ]\n}\n", encoding="utf-8")
-
-
-def differences_from_list(all_tables, mutants, equivalents):
-    """Sentences about every mutant that is listed and no equivalent, or the other way round."""
-    listed, reasons = read_equivalents()
-    found = {mutant.id for mutant in equivalents}
-    lines = []
-    for mutant in mutants:
-        is_equivalent = mutant.id in found
-        if is_equivalent != is_listed(all_tables, listed, mutant):
-            lines.append(("not listed, but no answer tells it: " if is_equivalent else
-                          "listed as equivalent, but answers differ: ") +
-                         place_of(all_tables[mutant.table], mutant))
-    for key in sorted({key_of(all_tables, mutant) for mutant in equivalents}):
-        if reason_for(reasons, key) is None:
-            lines.append("listed without a reason: " + " ".join(key))
-    return lines
-
-
-# -------------------------------------------------------------------------------------------------
 # The run
 
 
@@ -453,9 +359,8 @@ def in_groups(mutants, size):
 
 
 class Run:
-    def __init__(self, runner, mutants, jobs):
+    def __init__(self, runner, jobs):
         self.runner = runner
-        self.mutants = mutants
         self.jobs = jobs
         self.outcomes = {}
 
@@ -463,11 +368,11 @@ class Run:
         with concurrent.futures.ThreadPoolExecutor(self.jobs) as pool:
             yield from pool.map(work, items)
 
-    def find_equivalents(self):
+    def find_equivalents(self, mutants):
         """The mutants under which every answer is the same, and those of them never read."""
         def ask(part):
             return self.runner.run("mqTableFingerprint", part, "pieces")[1]
-        told = [mutant for mutant in self.mutants if self.runner.is_told_by_library(mutant)]
+        told = [mutant for mutant in mutants if not is_narrow(self.runner.tables[mutant.table])]
         statuses = {}
         for found in self.in_turn(ask, in_parts(told, self.jobs)):
             statuses.update(found)
@@ -516,11 +421,10 @@ class Run:
         return self.outcomes.get(mutant.id, "survived") == "survived"
 
 
-def report(all_tables, mutants, equivalents, outcomes):
+def report(all_tables, mutants, equivalent_ids, outcomes):
     """A line a table; gives the survivors."""
     columns = ("mutants", "failed", "crashed", "endless", "equivalent", "survived")
     counts = collections.defaultdict(collections.Counter)
-    equivalent_ids = {mutant.id for mutant in equivalents}
     survivors = []
     for mutant in mutants:
         outcome = ("equivalent" if mutant.id in equivalent_ids
@@ -541,14 +445,6 @@ def report(all_tables, mutants, equivalents, outcomes):
     return survivors
 
 
-def write_survivors(folder, all_tables, survivors):
-    lines = [place_of(all_tables[mutant.table], mutant) for mutant in survivors]
-    folder.mkdir(parents=True, exist_ok=True)
-    (folder / "tables-survivors.txt").write_text("".join(line + "\n" for line in lines),
-                                                 encoding="utf-8")
-    return lines
-
-
 def parse_arguments():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     chosen = parser.add_mutually_exclusive_group()
@@ -560,9 +456,18 @@ def parse_arguments():
     parser.add_argument("--jobs", type=int, default=2)
     parser.add_argument("--results", type=pathlib.Path, default=ROOT / "build/proof",
                         help="folder of tables.json and of the list of survivors")
-    parser.add_argument("--write-equivalents", action="store_true",
-                        help="with --all: write the list anew, with the reasons that it has")
     return parser.parse_args()
+
+
+def chosen_of(arguments, runner, every, listed):
+    """The mutants to try, and with them those that are listed as equivalent, to be asked again."""
+    chosen = [mutant for mutant in every
+              if re.fullmatch(arguments.tables, runner.tables[mutant.table].name)]
+    if arguments.all:
+        return chosen, chosen
+    sample = sample_of(chosen, arguments.sample, arguments.seed)
+    sample_ids = {mutant.id for mutant in sample}
+    return sample, [mutant for mutant in chosen if mutant.id in sample_ids or listed.has(mutant)]
 
 
 def main():
@@ -572,51 +477,54 @@ def main():
     folder = tempfile.mkdtemp(prefix="tables-")
     runner = Runner(folder)
     every = list(mutants_of(runner.tables))
-    mutants = [mutant for mutant in every
-               if re.fullmatch(arguments.tables, runner.tables[mutant.table].name)]
-    if not arguments.all:
-        mutants = sample_of(mutants, arguments.sample, arguments.seed)
+    listed = Equivalents(runner.tables)
+    mutants, asked = chosen_of(arguments, runner, every, listed)
     cells = sum(len(table.leaves) for table in runner.tables)
     print(f"{cells} cells in {len(runner.tables)} tables, {len(every)} mutants, "
           f"{len(mutants)} of them chosen", flush=True)
 
-    run = Run(runner, mutants, arguments.jobs)
-    equivalents, unread = run.find_equivalents()
+    run = Run(runner, arguments.jobs)
+    equivalents, unread = run.find_equivalents(asked)
     differences = [f"{change} of what is never read changes an answer of the shipped library"
                    for change in run.changed_together(unread)]
-    asked = time.monotonic()
-    print(f"{len(equivalents)} are equivalent, {len(unread)} of them never read "
-          f"({asked - began:.0f} s)", flush=True)
+    print(f"{len(equivalents)} of {len(asked)} are equivalent, {len(unread)} of them never read "
+          f"({time.monotonic() - began:.0f} s)", flush=True)
+    run.try_first(mutants)
+    print(f"{sum(map(run.is_alive, mutants))} live on after the first tries "
+          f"({time.monotonic() - began:.0f} s)", flush=True)
     equivalent_ids = {mutant.id for mutant in equivalents}
-    others = [mutant for mutant in mutants if mutant.id not in equivalent_ids]
-    run.try_first(others)
-    write_survivors(arguments.results, runner.tables, filter(run.is_alive, others))
-    print(f"{sum(map(run.is_alive, others))} live on after the first tries "
-          f"({time.monotonic() - asked:.0f} s)", flush=True)
-    run.try_suites(others)
+    run.try_suites([mutant for mutant in mutants if mutant.id not in equivalent_ids])
     seconds = time.monotonic() - began
     shutil.rmtree(folder)
 
-    survivors = report(runner.tables, mutants, equivalents, run.outcomes)
-    if arguments.write_equivalents and arguments.all:
-        write_equivalents(runner.tables, equivalents, read_equivalents()[1])
-    differences += differences_from_list(runner.tables, mutants, equivalents)
-    lines = write_survivors(arguments.results, runner.tables, survivors)
-    for line in lines[:200]:
-        print("survived:", line)
-    for line in differences[:200]:
-        print("list of equivalents:", line)
-    killable = len(mutants) - len(equivalents)
-    killed = killable - len(survivors)
-    sentence = (f"{killed} of {killable} killed, {len(equivalents)} equivalent as listed, "
-                f"{len(differences)} differences from the list")
-    print(f"{sentence}; {seconds:.0f} s, {len(mutants) / seconds:.0f} mutants a second")
+    differences += listed.differences(asked, equivalent_ids)
+    differences += [f"no answer tells, but a test: {place_of(runner.tables[mutant.table], mutant)}"
+                    for mutant in equivalents if not run.is_alive(mutant)]
+    survivors = report(runner.tables, mutants, equivalent_ids, run.outcomes)
+    return conclude(arguments, runner.tables, mutants, survivors, differences, equivalents, seconds)
 
+
+def conclude(arguments, all_tables, mutants, survivors, differences, equivalents, seconds):
+    """Shows what is wrong, writes the results, gives the exit status."""
+    lines = ([f"survived: {place_of(all_tables[mutant.table], mutant)}" for mutant in survivors] +
+             [f"list of equivalents: {line}" for line in differences])
+    for line in lines[:SHOWN_LINES]:
+        print(line)
+    if len(lines) > SHOWN_LINES:
+        print(f"and {len(lines) - SHOWN_LINES} more")
+    equivalent_ids = {mutant.id for mutant in equivalents}
+    killable = sum(mutant.id not in equivalent_ids for mutant in mutants)
+    sentence = (f"{killable - len(survivors)} of {killable} killed, {len(survivors)} survived; "
+                f"{len(equivalents)} equivalents asked, {len(differences)} differences from the list")
+    print(f"{sentence}; {seconds:.0f} s, {len(mutants) / seconds:.0f} mutants a second")
+    arguments.results.mkdir(parents=True, exist_ok=True)
+    (arguments.results / "tables-survivors.txt").write_text("".join(line + "\n" for line in lines),
+                                                            encoding="utf-8")
     (arguments.results / "tables.json").write_text(json.dumps([{
         "check": "no cell of a table of the library can change without a test that fails",
         "cases": len(mutants), "result": sentence, "seconds": round(seconds, 1)}], indent=2) + "\n",
         encoding="utf-8")
-    return 1 if survivors or differences or killable == 0 else 0
+    return 1 if lines or killable == 0 else 0
 
 
 if __name__ == "__main__":
