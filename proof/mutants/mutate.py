@@ -7,9 +7,11 @@ suite notices is tried again with the address and undefined-behaviour sanitizers
 noticed is killed; one that is not has survived, which is a missing test, unless equivalents.tsv
 says why it changes nothing that anybody could notice.
 
-Readers and writers of records and the code that owns objects must lose every fault, the whole
-library 95 of 100. A fault that static_assert or the evaluation of a constant refuses counts as
-killed by the compiler; one that is no C++ does not count at all.
+Readers and writers of records and the code that owns objects must lose every fault, the core 95 of
+100: that is the whole library but for the rows of the hand-ruled tables, whose cells proof/tables
+changes in the compiled library (operators.py says which). A fault that static_assert or the
+evaluation of a constant refuses counts as killed by the compiler; one that is no C++ does not
+count at all.
 
   mutate.py --sample 120            some faults of every file (CI)
   mutate.py --changed-since main    the lines that differ from a revision
@@ -46,7 +48,7 @@ GATES = [
     ("code that owns objects", 100.0, [
         "mqPostCommon/display/*", "mqPostCommon/platform/owned.h", "mqPostCommon/platform/arrays.h",
         "mqPostCommon/platform/lists.h", "mqPostCommon/materials/material.*"]),
-    ("whole library", 95.0, ["*"]),
+    ("core", 95.0, ["*"]),
 ]
 # Tried without a fault first, for each wing: whatever is noticed then is a mistake of this script.
 FAULTLESS = {
@@ -81,11 +83,11 @@ def changed_lines(revision):
 
 
 def sample(mutants, count, seed):
-    """As many of each file as possible, so that long tables do not drown the rest."""
+    """As many of each file as possible, so that long files do not drown the rest."""
     chosen, files = [], {}
     for mutant in mutants:
         files.setdefault(mutant.path, []).append(mutant)
-    for number, path in enumerate(sorted(files)):
+    for path in files:
         random.Random(f"{seed} {path}").shuffle(files[path])
     while len(chosen) < count and files:
         for path in sorted(files, key=lambda path: hashlib.sha1(f"{seed}{path}{len(chosen)}".encode())
