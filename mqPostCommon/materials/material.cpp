@@ -70,17 +70,17 @@ bool UsesVaryingStrength(const CmqPostDataParam& plot, const Material& material)
   }
 }
 
-constexpr int kNotFound = -1;
-
+/// The index of the record of a body; the number of records when there is none.
 int FindBody(const CmqpMaterialDataList& list, long bodyId, int secondaryId) noexcept {
-  for (int index = 0; index < list.m_arrMaterials.GetSize(); ++index) {
+  int index = 0;
+  for (; index < list.m_arrMaterials.GetSize(); ++index) {
     const Material& material = list.m_arrMaterials[index];
     if (material.m_nBodyID == bodyId &&
         (secondaryId < 1 || material.m_nSecondaryID == secondaryId)) {
-      return index;
+      break;
     }
   }
-  return kNotFound;
+  return index;
 }
 
 /// Equal for names that differ in letter case alone.
@@ -206,7 +206,7 @@ CmqpMaterialData CmqpMaterialDataList::GetAt(int index) const {
 int CmqpMaterialDataList::GetByBodyID(long bodyId, CmqpMaterialData* out, int* index,
                                       int secondaryId) const {
   const int found = mqp::FindBody(*this, bodyId, secondaryId);
-  if (found == mqp::kNotFound) {
+  if (found == m_arrMaterials.GetSize()) {
     return 0;
   }
   *out = m_arrMaterials[found];
@@ -249,7 +249,9 @@ int CmqpMaterialDataList::IsTemperatureDependentFOSCriterion(
   }
   if (plot->m_nBodyId > 0) {
     const int found = FindBody(*this, plot->m_nBodyId, 0);
-    return found != kNotFound && UsesVaryingStrength(*plot, m_arrMaterials[found]) ? 1 : 0;
+    return found < m_arrMaterials.GetSize() && UsesVaryingStrength(*plot, m_arrMaterials[found])
+               ? 1
+               : 0;
   }
   for (int index = 0; index < m_arrMaterials.GetSize(); ++index) {
     if (UsesVaryingStrength(*plot, m_arrMaterials[index])) {

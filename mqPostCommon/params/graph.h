@@ -105,7 +105,7 @@ class MQPOSTCOMMON_API CmqPostGraphParam {
   int             m_nHost6 = 1;
   int             m_nHost7[2] = {0, 0};
   CmqGraphAxis    m_XAxis = {14, 0, 0, -1};
-  CmqGraphAxis    m_YAxis = {1, 0, 0, -1};        ///< its sensor is the transient sensor
+  CmqGraphAxis    m_YAxis;                        ///< its sensor is the transient sensor
   int             m_nHost16[6] = {-1, -1, -1, -1, -1, -1};
   int             m_nHost17[18] = {};
   CString         m_strHost18[3];

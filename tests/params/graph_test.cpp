@@ -468,6 +468,14 @@ TEST(Graph, WithoutPreferencesNothingHappens) {
   }
 }
 
+TEST(Graph, AnAxisOfItsOwnShowsNothing) {
+  const CmqGraphAxis axis;
+  EXPECT_EQ(axis.m_nQuantityType, 0);
+  EXPECT_EQ(axis.m_nComponent, 0);
+  EXPECT_EQ(axis.m_nUnit, 0);
+  EXPECT_EQ(axis.m_nSensor, -1);
+}
+
 TEST(Graph, PreferencesAreTakenWhateverTheirValue) {
   for (const int unit : {INT_MIN, -1, 0, 99, INT_MAX}) {
     CmqPostGraphParam graph = UnitGraph({0, 2, 9, 0, 0});

@@ -69,6 +69,30 @@ TEST(StringList, TheBlockSizeHasNoEffect) {
   EXPECT_EQ(Read(list), (Expected{MQ_TEXT("a"), MQ_TEXT("b")}));
 }
 
+/// Counts how many of its kind there are, copies included.
+struct Copied {
+  explicit Copied(int& owner) : count(&owner) { ++*count; }
+  Copied(const Copied& other) : count(other.count) { ++*count; }
+  Copied& operator=(const Copied&) = delete;
+  ~Copied() { --*count; }
+  int* count;
+};
+
+TEST(LinkedList, ValuesGoWithTheListThatHoldsThem) {
+  int count = 0;
+  {
+    mqp::LinkedList<Copied> list;
+    list.AddTail(Copied(count));
+    list.AddTail(Copied(count));
+    EXPECT_EQ(count, 2);
+    mqp::LinkedList<Copied> other;
+    other.AddHead(Copied(count));
+    other = std::move(list);
+    EXPECT_EQ(count, 2);
+  }
+  EXPECT_EQ(count, 0);
+}
+
 TEST(StringList, ElementsAreAddedAtBothEnds) {
   CStringList list;
   const POSITION middle = list.AddHead(MQ_TEXT("b"));
