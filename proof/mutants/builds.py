@@ -12,6 +12,7 @@ import resource
 import shlex
 import signal
 import subprocess
+import threading
 from pathlib import Path
 
 SUITES = {
@@ -22,18 +23,21 @@ SUITES = {
     "mqListsTests": "lists",
     "mqMaterialsTests": "materials",
     "mqDisplayTests": "display",
+    "mqFaultTests": "faults",
+    "mqAllocationTests": "faults",
 }
 # The suites that a wing can break, the likeliest first. A mutant of platform/ meets the tests of
 # its own header before these.
 SUITES_OF = {
     "catalogue": ["mqCatalogueTests", "mqInterpositionTests", "mqParamsTests", "mqListsTests"],
-    "params": ["mqParamsTests", "mqListsTests", "mqMaterialsTests"],
+    "params": ["mqParamsTests", "mqListsTests", "mqMaterialsTests", "mqFaultTests"],
     "lists": ["mqListsTests", "mqDisplayTests"],
     "materials": ["mqMaterialsTests"],
     "display": ["mqDisplayTests"],
     "platform": ["mqParamsTests", "mqDisplayTests", "mqMaterialsTests", "mqListsTests",
                  "mqCatalogueTests"],
 }
+STATIC_SUITE = "mqAllocationTests"  # linked with the objects of the library, run last
 HEADER_TESTS = {"case_folding": "wide_string"}  # tested by the test of another name
 LIBRARY = "mqPostCommon/CMakeFiles/mqPostCommonObjects.dir"
 SLOW_TEST = 0.03  # seconds; slower tests are run last, and never with sanitizers
@@ -83,8 +87,8 @@ class Preset:
         self.uses = self._read_dependencies()
         self.headers = {}
         self.runs_slow = slow is None
-        self.slow = slow or {}
-        self.seconds = {suite: self._time(suite) for suite in SUITES}
+        self.slow, self.seconds = slow or {}, {}
+        self.timing = threading.Lock()
 
     def _build(self, jobs):
         if not (self.folder / "build.ninja").exists():
@@ -111,8 +115,13 @@ class Preset:
                 uses.setdefault(target, set()).add(path)
         return uses
 
+    def time(self, suite):
+        """Times a suite without a fault, once; all its tests must pass."""
+        with self.timing:
+            if suite not in self.seconds:
+                self.seconds[suite] = self._time(suite)
+
     def _time(self, suite):
-        """The seconds of processor time of a suite; all its tests must pass."""
         report = self.scratch / f"{suite}.json"
         before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
         code, output = run([str(self.folder / "bin" / suite), f"--gtest_output=json:{report}",
@@ -202,29 +211,38 @@ class Preset:
                     f"{bin_folder}/libmqCommFuncs.so", f"{bin_folder}/libGfxCore.so"])
         return folder
 
-    def link_tests(self, suite, changed, others, worker):
+    def link_tests(self, suite, changed, worker, alone):
+        """Links the tests of a suite, or those of the changed objects alone."""
+        others = list(changed) if alone else self.objects(self.tests(suite))
+        if suite == STATIC_SUITE:
+            others += self.objects(LIBRARY)
         program = worker / self.name / suite
         bin_folder = self.folder / "bin"
         libraries = [f"{bin_folder}/lib{name}.so" for name in
                      ("mqPostCommon", "mqCommFuncs", "GfxCore")]
-        libraries = [name for name in libraries if suite != "mqPlatformTests" or "Post" not in name]
+        if suite in ("mqPlatformTests", STATIC_SUITE):
+            libraries.pop(0)
         extra = [str(path) for path in self.folder.glob("host/storage/libmqStorage.a")]
         self._link(program, changed, others,
                    [*extra, "-lgsf-1", "-lgobject-2.0", "-lglib-2.0", *libraries,
                     "-lgtest", "-lgtest_main", "-lpthread", f"-Wl,-rpath,{bin_folder}"])
         return program
 
-    def test(self, suite, program, library, slow):
-        """Runs the fast or the slow tests of a suite. Says what noticed the fault, or nothing."""
+    def test(self, suite, program, library, slow, fault):
+        """Runs the fast or the slow tests of a suite. Says what noticed the fault, or nothing.
+
+        `fault` is the number of the one that is switched on where there are many.
+        """
+        self.time(suite)
         names = ":".join(self.slow[suite])
         if slow and not (names and self.runs_slow):
             return None
-        env = dict(os.environ, ASAN_OPTIONS="hard_rss_limit_mb=3000", UBSAN_OPTIONS="print_stacktrace=0")
+        env = dict(os.environ, MQ_FAULT=str(fault), ASAN_OPTIONS="hard_rss_limit_mb=3000", UBSAN_OPTIONS="print_stacktrace=0")
         if library:
             env["LD_LIBRARY_PATH"] = str(library)
         code, output = run([str(program or self.folder / "bin" / suite), "--gtest_brief=1",
                             "--gtest_fail_fast", f"--gtest_filter={names if slow else '-' + names}"],
-                           self.folder, seconds=8 * self.seconds[suite] + 4,
+                           self.folder, seconds=4 * self.seconds[suite] + 2,
                            memory=None if self.name == "asan" else 4 << 30, env=env)
         if code == 0:
             return None

@@ -2,8 +2,10 @@
 """Proves that the tests notice small faults in the library.
 
 One fault at a time is planted into the sources of mqPostCommon/ (operators.py lists the kinds):
-the affected objects are compiled, the library is linked and the suites run until one fails. What no
-suite notices is tried again with the address and undefined-behaviour sanitizers. A fault that is
+the affected objects are compiled, the library is linked and the suites run until one fails. Faults
+within functions are compiled many at once and one is switched on (together.py); what is not
+noticed so is tried alone. What no suite notices is tried again with the address and
+undefined-behaviour sanitizers. A fault that is
 noticed is killed; one that is not has survived, which is a missing test, unless equivalents.tsv
 says why it changes nothing that anybody could notice.
 
@@ -32,12 +34,14 @@ import threading
 import time
 from collections import Counter
 from concurrent.futures import ThreadPoolExecutor
+from dataclasses import dataclass
 from fnmatch import fnmatch
 from pathlib import Path
 
 sys.dont_write_bytecode = True  # nothing but the results is written
 import operators
-from builds import HEADER_TESTS, REFUSED, SUITES, SUITES_OF, CompileError, Preset
+from builds import HEADER_TESTS, REFUSED, STATIC_SUITE, SUITES, SUITES_OF, CompileError, Preset
+from together import MOST, Together
 
 HERE = Path(__file__).resolve().parent
 ROOT = HERE.parent.parent
@@ -120,20 +124,17 @@ class Equivalents:
 
 
 class Trial:
-    """Tries one mutant after another in a folder of its own."""
+    """Tries mutants in a folder of its own, one after another or many at once."""
 
     def __init__(self, folder, presets, names, texts):
         self.folder, self.presets, self.names, self.texts = folder, presets, names, texts
 
     def verdict(self, mutant):
         """What became of a mutant, and who noticed it."""
-        shutil.rmtree(self.folder, ignore_errors=True)
-        changed = self.folder / "changed" / mutant.path
-        changed.parent.mkdir(parents=True)
-        changed.write_text(mutant.apply(self.texts[mutant.path]), encoding="utf-8")
+        self._change(mutant.path, mutant.apply(self.texts[mutant.path]))
         try:
-            for preset in self.names:
-                noticed = self._notice(self.presets(preset), mutant.path)
+            for name in self.names:
+                noticed = self._notice(self.presets(name), mutant.path)
                 if noticed:
                     return noticed
         except CompileError as error:
@@ -142,63 +143,91 @@ class Trial:
             return ("compiler" if REFUSED.search(words) else "invalid"), first.strip()
         return "survived", ""
 
+    def together(self, path, mutants):
+        """Each of the mutants of a file that is noticed, and who noticed it."""
+        preset, group = self.presets("dev"), Together(path, self.texts[path], mutants)
+        self._change(path, "")
+        changed, library = self.folder / "changed" / path, None
+        for stage in stages(preset, path):
+            objects = group.compile(changed, lambda: preset.compile(stage.targets, self.folder))
+            if objects is None:
+                return
+            programs, library = self._link(preset, stage, objects, library)
+            for fault in [0, *group.faults]:  # without a fault first
+                noticed = self._suites(preset, stage.suites, programs, library, fault)
+                if noticed and fault == 0:
+                    raise SystemExit(f"{path} without a fault is noticed by {noticed[1]}")
+                if noticed:
+                    yield group.faults.pop(fault), noticed
+
     def require_silence(self, preset, path):
         """A file without a fault is not noticed: what is noticed later is the fault."""
-        shutil.rmtree(self.folder, ignore_errors=True)
-        changed = self.folder / "changed" / path
-        changed.parent.mkdir(parents=True)
-        changed.write_text(self.texts[path], encoding="utf-8")
+        self._change(path, self.texts[path])
         noticed = self._notice(preset, path)
         if noticed:
             raise SystemExit(f"{path} without a fault is noticed by {noticed[1]} ({preset.name})")
 
+    def _change(self, path, text):
+        shutil.rmtree(self.folder, ignore_errors=True)
+        changed = self.folder / "changed" / path
+        changed.parent.mkdir(parents=True)
+        changed.write_text(text, encoding="utf-8")
+
     def _notice(self, preset, path):
-        wing = path.split("/")[1]
-        if wing == "platform":
-            noticed = self._own_test(preset, path)
-            if noticed or preset.name == "asan":
-                return noticed
         library = None
-        targets = preset.library_objects(path)
-        if targets:
-            objects = preset.compile(targets, self.folder)
-            library = preset.link_library(objects, self.folder)
-            suites = SUITES_OF[wing][:1] if preset.name == "asan" else SUITES_OF[wing]
-            noticed = self._suites(preset, suites, {}, library)
+        for stage in stages(preset, path):
+            objects = preset.compile(stage.targets, self.folder)
+            programs, library = self._link(preset, stage, objects, library)
+            noticed = self._suites(preset, stage.suites, programs, library)
             if noticed:
                 return noticed
-        # What stands in a header is compiled into the tests as well.
-        if path.endswith(".h") and preset.name != "asan":
-            return self._header_suites(preset, path, wing, library)
         return None
 
-    def _own_test(self, preset, path):
-        stem = Path(path).stem
-        source = f"tests/platform/{HEADER_TESTS.get(stem, stem)}_test.cpp"
-        for target in preset.test_objects("mqPlatformTests", path):
-            if preset.commands[target][0] == source:
-                objects = preset.compile([target], self.folder)
-                program = preset.link_tests("mqPlatformTests", objects, [target], self.folder)
-                return self._suites(preset, ["mqPlatformTests"], {"mqPlatformTests": program}, None)
-        return None
-
-    def _header_suites(self, preset, path, wing, library):
-        suite = next(name for name, folder in SUITES.items() if folder == wing)
-        targets = preset.test_objects(suite, path)
-        if not targets:
-            return None
-        objects = preset.compile(targets, self.folder)
-        program = preset.link_tests(suite, objects, preset.objects(preset.tests(suite)), self.folder)
-        return self._suites(preset, [suite], {suite: program}, library)
+    def _link(self, preset, stage, objects, library):
+        """The changed test program, if it is one, and the changed library."""
+        if not stage.program:
+            return {}, preset.link_library(objects, self.folder)
+        program = preset.link_tests(stage.program, objects, self.folder, stage.alone)
+        return {stage.program: program}, library
 
     @staticmethod
-    def _suites(preset, suites, programs, library):
+    def _suites(preset, suites, programs, library, fault=0):
         for slow in (False, True):
             for suite in suites:
-                noticed = preset.test(suite, programs.get(suite), library, slow)
+                noticed = preset.test(suite, programs.get(suite), library, slow, fault)
                 if noticed:
                     return noticed
         return None
+
+
+@dataclass(frozen=True)
+class Stage:
+    targets: list  # the objects that are made of the changed file
+    program: str   # what they are linked to: a test program, or the library if empty
+    suites: list   # what is run then
+    alone: bool    # the program is made of these objects only
+
+
+def stages(preset, path):
+    """The steps in which a changed file is tried, the shortest first."""
+    wing, stem = path.split("/")[1], Path(path).stem
+    sanitized = preset.name == "asan"
+    found = []
+    if wing == "platform":
+        source = f"tests/platform/{HEADER_TESTS.get(stem, stem)}_test.cpp"
+        own = [target for target in preset.test_objects("mqPlatformTests", path)
+               if preset.commands[target][0] == source]
+        found.append(Stage(own, "mqPlatformTests", ["mqPlatformTests"], True))
+    if wing != "platform" or not sanitized:
+        suites = SUITES_OF[wing][:1] if sanitized else SUITES_OF[wing]
+        found.append(Stage(preset.library_objects(path), "", suites, False))
+    if path.endswith(".h") and not sanitized:  # compiled into the tests as well
+        suite = next(name for name, folder in SUITES.items() if folder == wing)
+        found.append(Stage(preset.test_objects(suite, path), suite, [suite], False))
+    if not sanitized:
+        targets = preset.library_objects(path) + preset.test_objects(STATIC_SUITE, path)
+        found.append(Stage(targets, STATIC_SUITE, [STATIC_SUITE], False))
+    return [stage for stage in found if stage.targets]
 
 
 class Journal:
@@ -212,23 +241,36 @@ class Journal:
                 self.known[entry["id"]] = (entry["verdict"], entry["who"])
 
     def id(self, mutant):
-        text = f"{mutant.path} {mutant.apply(self.texts[mutant.path])}"
-        return hashlib.sha1(text.encode()).hexdigest()
+        """The same as long as nothing but comments and line ends of the file change."""
+        tokens = operators.tokenize(mutant.apply(self.texts[mutant.path]))
+        words = " ".join([mutant.path, *(token.text for token in tokens)])
+        return hashlib.sha1(words.encode()).hexdigest()
 
     def find(self, mutant):
         verdict = self.known.get(self.id(mutant)) if self.known else None
         return verdict if verdict and verdict[0] in (*KILLED, "invalid") else None
 
     def add(self, mutant, verdict, who):
+        self.known[self.id(mutant)] = (verdict, who)
         if self.path:
             with open(self.path, "a", encoding="utf-8") as file:
                 file.write(json.dumps({"id": self.id(mutant), "mutant": mutant.key,
                                        "verdict": verdict, "who": who}) + "\n")
 
 
+def groups(mutants):
+    """Those of a file in groups that are worth being compiled at once."""
+    files = {}
+    for mutant in mutants:
+        files.setdefault(mutant.path, []).append(mutant)
+    cut = [found[first : first + MOST] for found in files.values()
+           for first in range(0, len(found), MOST)]
+    return [group for group in cut if len(group) > 3]
+
+
 def try_all(mutants, options, texts, equivalents, scratch):
     """The verdict of each mutant, in their order."""
-    lock, presets, local = threading.Lock(), {}, threading.local()
+    lock, presets, local, workers = threading.Lock(), {}, threading.local(), []
     journal = Journal(options.journal, texts)
     names = ["dev"] if options.no_sanitizers else ["dev", "asan"]
     tried = Counter()
@@ -245,32 +287,48 @@ def try_all(mutants, options, texts, equivalents, scratch):
                     trial.require_silence(presets[name], FAULTLESS[wing])
             return presets[name]
 
-    def judge(mutant):
-        if equivalents.knows(mutant) and not options.try_equivalents:
-            return "equivalent", ""
-        known = journal.find(mutant)
-        if known:
-            return known
+    def trial():
         if not hasattr(local, "trial"):
             with lock:
-                tried["workers"] += 1
-                local.trial = Trial(scratch / f"worker{tried['workers']}", preset, names, texts)
-        verdict, who = local.trial.verdict(mutant)
-        if equivalents.knows(mutant):
-            verdict = "equivalent" if verdict == "survived" else "wrong"
+                workers.append(scratch / f"worker{len(workers)}")
+                local.trial = Trial(workers[-1], preset, names, texts)
+        return local.trial
+
+    def note(mutant, verdict, who):
         with lock:
             tried[verdict] += 1
             journal.add(mutant, verdict, who)
             if verdict in ("survived", "wrong") or options.verbose:
                 show(mutant, verdict, who, texts)
+
+    def is_said_to_change_nothing(mutant):
+        return equivalents.knows(mutant) and not options.try_equivalents
+
+    def judge_together(group):
+        for mutant, (verdict, who) in trial().together(group[0].path, group):
+            note(mutant, "wrong" if equivalents.knows(mutant) else verdict, who)
+
+    def judge(mutant):
+        if is_said_to_change_nothing(mutant):
+            return "equivalent", ""
+        known = journal.find(mutant)
+        if known:
+            return known
+        verdict, who = trial().verdict(mutant)
+        if equivalents.knows(mutant):
+            verdict = "equivalent" if verdict == "survived" else "wrong"
+        note(mutant, verdict, who)
         return verdict, who
 
     preset("dev")  # configured and built before the clock starts
     start = time.monotonic()
+    untried = [mutant for mutant in mutants
+               if not is_said_to_change_nothing(mutant) and not journal.find(mutant)]
     with ThreadPoolExecutor(options.jobs) as pool:
+        list(pool.map(judge_together, groups(untried)))
         verdicts = list(pool.map(judge, mutants))
     seconds = time.monotonic() - start
-    count = sum(tried.values()) - tried["workers"]
+    count = sum(tried.values())
     if count:
         print(f"{count} faults tried in {seconds:.0f} s: {seconds * options.jobs / count:.2f} s each")
     return verdicts, seconds

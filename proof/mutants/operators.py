@@ -219,7 +219,8 @@ class Source:
             self.add(place, place, "false" if word == "true" else "true")
         elif word in ("break", "continue") and behind == ";":
             self.add(place, place, "continue" if word == "break" else "break")
-            self.add(place, place, "")
+            if not self._ends_switch(place + 2):
+                self.add(place, place, "")
         elif word == "if" and "(" in (behind, self.at(place + 2)):
             opening = place + 1 if behind == "(" else place + 2
             closing = self.partner[opening]
@@ -234,6 +235,12 @@ class Source:
             if not re.fullmatch(r"\*this|nullptr|true|false|[\d.]+F?|[\w:]+\(\)",
                                 self.between(place + 1, last)):
                 self.add(place + 1, last, "{}")
+
+    def _ends_switch(self, place):
+        """Whether nothing is done between here and the end of a switch."""
+        if self.at(place) == "default":
+            place += 4 if self.at(place + 2) == "break" else 2
+        return self.at(place) == "}" and "switch" in self._head(self.partner[place])
 
     def _signs(self, place):
         sign = self.at(place)
@@ -303,11 +310,11 @@ class Source:
                          f"arguments exchanged: {' '.join(left.split())}, {' '.join(right.split())}")
 
     def _head(self, place):
-        """The tokens before a place, back to the end of what stands before it."""
+        """The tokens before a place, back to the end of what stands before it, but for template heads."""
         first = place - 1
         while first >= 0 and self.at(first) not in (";", "{", "}"):
             first = self.partner.get(first, first) - 1 if self.at(first) == ")" else first - 1
-        return [self.at(other) for other in range(first + 1, place)]
+        return [self.at(other) for other in range(first + 1, place) if other not in self.fixed]
 
     def _begins_statement(self, place):
         before = self.at(place - 1)

@@ -1,0 +1,142 @@
+"""Many faults of a file compiled at once: the environment variable MQ_FAULT chooses one of them.
+
+The body of a function stands there once for each of its faults and once without any, the
+initializer of a member likewise. What the compiler evaluates is without a fault. So a fault that a
+test notices is killed as it would be alone, and everything else - what survives, what does not
+compile, what stands elsewhere - is left to be tried alone.
+"""
+
+import re
+
+from builds import CompileError
+from operators import Source
+
+CHOICE = """#ifndef MQ_FAULT
+#define MQ_FAULT
+#include <cstdlib>
+#include <type_traits>
+inline const int mqFault = [] {
+  const char* fault = std::getenv("MQ_FAULT");
+  return fault == nullptr ? 0 : std::atoi(fault);
+}();
+#endif
+"""
+MOST = 150  # faults in one file: more of them take the compiler more memory than time
+
+
+def function_bodies(source):
+    """The outermost bodies of functions, from brace to brace."""
+    bodies, last = [], -1
+    for place in range(1, len(source.tokens)):
+        if source.at(place) != "{" or place < last:
+            continue
+        head = source._head(place)
+        if {"namespace", "class", "struct", "enum", "union", "consteval", "="} & set(
+                outside_of_brackets(head)) or ")" not in head:
+            continue
+        last = source.partner.get(place, place)
+        if source.at(last + 1) not in (",", "{"):  # an initializer of a constructor
+            bodies.append((source.tokens[place].start, source.tokens[last].end))
+    return bodies
+
+
+def outside_of_brackets(words):
+    kept, depth = [], 0
+    for place, word in enumerate(words):
+        depth += {"(": 1, ")": -1}.get(word, 0)
+        if not depth and words[place - 1] != "operator":
+            kept.append(word)
+    return kept
+
+
+def initializers(source):
+    """The expressions that members are initialized with in their class."""
+    found = []
+    for end, token in enumerate(source.tokens):
+        if token.text != ";":
+            continue
+        head = source._head(end) if source.at(end - 1) != "}" else source._head(source.partner[end - 1])
+        if {"constexpr", "constinit", "static", "using", "enum", "operator", "("} & set(head):
+            continue
+        around = max((opening for opening, closing in source.partner.items()
+                      if opening < end < closing and source.at(opening) == "{"), default=0)
+        if not {"class", "struct"} & set(source._head(around)):
+            continue
+        if source.at(end - 1) == "}":
+            found += in_braces(source, source.partner[end - 1], end - 1)
+        elif "=" in head:
+            first = end - head[::-1].index("=")
+            found.append((source.tokens[first].start, source.tokens[end - 1].end))
+    return found
+
+
+def in_braces(source, opening, closing):
+    """The numbers between braces, or the braces if there are none."""
+    if closing == opening + 1:
+        return [(source.tokens[opening].start, source.tokens[closing].end)]
+    return [(source.tokens[place - (source.at(place - 1) == "-")].start, source.tokens[place].end)
+            for place in range(opening, closing) if source.kind(place) == "number"]
+
+
+def all_in_one(text, places, faults):
+    """The text with every fault in it, and the lines on which each of them stands."""
+    out, lines, line, done = [CHOICE], {}, CHOICE.count("\n") + 1, 0
+
+    def write(piece):
+        nonlocal line
+        out.append(piece)
+        line += piece.count("\n")
+
+    for start, end in places:
+        old, inner = text[start:end], faults_within(faults, start, end)
+        if not inner:
+            continue
+        if old == "{}":  # the numbers of an array
+            choice = "{", "mqFault == %d ? 1 :", "0}"
+        elif old.startswith("{"):
+            choice = ("{ if (std::is_constant_evaluated()) " + old + " else switch (mqFault) {",
+                      "case %d: %s break;", "default: " + old + "} }")
+        else:
+            choice = "(", "mqFault == %d ? (%s) :", f"({old}))"
+        write(text[done:start] + choice[0])
+        for number, fault in inner.items():
+            write("\n")
+            new = old[: fault.start - start] + fault.new + old[fault.end - start :]
+            first, words = line, choice[1].replace("%d", str(number)).replace("%s", new)
+            write(words)
+            lines[number] = range(first, line + 1)
+        write("\n" + choice[2])
+        done = end
+    write(text[done:])
+    return "".join(out), lines
+
+
+def faults_within(faults, start, end):
+    return {number: fault for number, fault in faults.items()
+            if start <= fault.start and fault.end <= end}
+
+
+class Together:
+    """The faults in the functions of one file, by their numbers."""
+
+    def __init__(self, path, text, mutants):
+        self.path, self.text, source = path, text, Source(path, text)
+        self.places = sorted(function_bodies(source) + initializers(source))
+        numbered = dict(enumerate(mutants, 1))
+        self.faults = {number: fault for start, end in self.places
+                       for number, fault in faults_within(numbered, start, end).items()}
+
+    def compile(self, changed, compile_file):
+        """The objects with all faults that are C++; the others are taken out. None: not together."""
+        while self.faults:
+            text, lines = all_in_one(self.text, self.places, self.faults)
+            changed.write_text(text, encoding="utf-8")
+            try:
+                return compile_file()
+            except CompileError as error:
+                places = {int(place) for place in re.findall(
+                    rf"{re.escape(self.path)}:(\d+):\d+: error", str(error))}
+                wrong = [number for number, where in lines.items() if places & set(where)]
+                for number in wrong or list(self.faults):
+                    del self.faults[number]
+        return None
