@@ -88,7 +88,7 @@ class Preset:
         self.headers = {}
         self.runs_slow = slow is None
         self.slow, self.seconds = slow or {}, {}
-        self.timing = threading.Lock()
+        self.silent, self.timing = set(), threading.RLock()
 
     def _build(self, jobs):
         if not (self.folder / "build.ninja").exists():

@@ -134,9 +134,17 @@ class Together:
             try:
                 return compile_file()
             except CompileError as error:
-                places = {int(place) for place in re.findall(
-                    rf"{re.escape(self.path)}:(\d+):\d+: error", str(error))}
-                wrong = [number for number, where in lines.items() if places & set(where)]
+                wrong = blamed(self.path, lines, str(error))
                 for number in wrong or list(self.faults):
                     del self.faults[number]
         return None
+
+
+def blamed(path, lines, words):
+    """The faults on the lines that the compiler names: of an error, else of what led to it."""
+    for kind in ("error", "  required from"):
+        places = {int(place) for place in re.findall(rf"{re.escape(path)}:(\d+):\d+: {kind}", words)}
+        wrong = [number for number, where in lines.items() if places & set(where)]
+        if wrong:
+            return wrong
+    return []
