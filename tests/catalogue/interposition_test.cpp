@@ -11,6 +11,7 @@
 #include <mqPostCommon/catalogue/lookup.h>
 #include <mqPostCommon/catalogue/names.h>
 #include <mqPostCommon/lists/list.h>
+#include <mqPostCommon/params/graph.h>
 #include <mqPostCommon/platform/comm_funcs.h>
 #include <mqPostCommon/platform/integers.h>
 #include <mqPostCommon/platform/text.h>
@@ -47,9 +48,9 @@ namespace {
 
 using Ids = std::vector<UINT>;
 
-/// In every list, behind its end, and the special stress of a dynamic study.
-constexpr auto kComponents = std::to_array<int>(
-    {-1, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 99, 100, 101});
+/// Up to behind the end of the longest list, that of a dynamic stress.
+constexpr int kFirstComponent = -1;
+constexpr int kLastComponent = 101;
 
 class OwnStringTableTest : public testing::Test {
  protected:
@@ -140,7 +141,7 @@ TEST_F(OwnStringTableTest, NothingButNamesIsAskedForWhateverTheCodes) {
           vekPostCommonGetGraphNameForReport(study, result, option, option);
           vekPostCommonGetComponentIndexByName(study, result, option, MQ_TEXT("none"), 0);
         }
-        for (const int component : kComponents) {
+        for (int component = kFirstComponent; component <= kLastComponent; ++component) {
           for (const int meshKind : {0, 4}) {
             for (const int option : {0, 1}) {
               vekPostCommonGetComponentName(study, result, 0, component, meshKind, option);
@@ -169,7 +170,7 @@ TEST_F(OwnStringTableTest, NothingButNamesIsAskedForWhateverTheListSet) {
         list.m_nResultType = result;
         list.m_nListSetFlag = 1;
         list.m_nListSetKind = kind;
-        for (const int component : kComponents) {
+        for (int component = kFirstComponent; component <= kLastComponent; ++component) {
           static_cast<void>(list.GetComponentName(component));
           list.m_nComponent = component;
           static_cast<void>(list.GetComponentIndexByListSet());
@@ -177,6 +178,33 @@ TEST_F(OwnStringTableTest, NothingButNamesIsAskedForWhateverTheListSet) {
         CheckThatNamesWereAsked();
       }
     }
+  }
+}
+
+TEST_F(OwnStringTableTest, NothingButNamesIsAskedForWhateverTheComponentOfAGraph) {
+  CmqPostGraphParam graph(8, 2, 0, 0, 0);
+  graph.m_YAxis.m_nQuantityType = 2;
+  for (int component = kFirstComponent; component <= kLastComponent; ++component) {
+    SCOPED_TRACE(component);
+    graph.m_YAxis.m_nComponent = component;
+    for (const int meshKind : {0, 4}) {
+      static_cast<void>(graph.GetDefaultPlotName(meshKind));
+      static_cast<void>(graph.GetYTitle(meshKind, 0));
+    }
+    CheckThatNamesWereAsked();
+  }
+}
+
+TEST_F(OwnStringTableTest, NoTextIsAskedForAsTheTitleBehindTheSevenBeamStresses) {
+  CmqPostGraphParam graph(8, 2, 0, 0, 0);
+  graph.m_YAxis.m_nQuantityType = 2;
+  graph.m_YAxis.m_nComponent = 6;
+  static_cast<void>(graph.GetYTitle(4, 0));
+  EXPECT_EQ(TakeAsked(), Ids{54014});
+  for (const int component : {-1, 7, 100}) {
+    graph.m_YAxis.m_nComponent = component;
+    static_cast<void>(graph.GetYTitle(4, 0));
+    EXPECT_EQ(TakeAsked(), Ids()) << component;
   }
 }
 

@@ -754,6 +754,28 @@ TEST(BarNamesTest, OnlyVariantOneGivesTheOtherFatigueName) {
   EXPECT_EQ(Bar(Study::Fatigue, Result::FactorOfSafety, 5), kNoName);
 }
 
+TEST(BarNamesTest, TheNamesOfAFatigueStudyDependOnTheVariantAloneWhateverTheResult) {
+  const NumberedTexts texts;
+  Sweep sweep({"flag", "result type", "component", "mesh kind", "fatigue variant"});
+  for (const int flag : {0, 1}) {
+    const ActualFrequencyFlag guard(flag);
+    for (const int resultType : kSweptCodes) {
+      const BarNames names(Code(Study::Fatigue), resultType);
+      for (const int component : {0, 1, 2, 3, 4, 5}) {
+        for (const int meshKind : {0, 4}) {
+          for (const int variant : {0, 1}) {
+            const Name expected =
+                names.At(component, variant, {.meshKind = meshKind, .flag = flag});
+            const Name got = SeenName(vekPostCommonGetComponentNameBar(
+                Code(Study::Fatigue), resultType, 0, component, meshKind, variant));
+            sweep.Check(expected, got, flag, resultType, component, meshKind, variant);
+          }
+        }
+      }
+    }
+  }
+}
+
 struct CutCase {
   const mqChar* fullName;
   const mqChar* barName;

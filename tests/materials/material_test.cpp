@@ -413,11 +413,18 @@ TEST(Material, DesignChecksIgnoreWhetherShearStrengthIsDefinedButNotItsValue) {
 }
 
 TEST(Material, DesignChecksTellFlagsApartThatBothMeanDefined) {
-  CmqpMaterialData one;
-  CmqpMaterialData other;
-  one.m_bHasSIGXT = 1;
-  other.m_bHasSIGXT = 2;
-  EXPECT_EQ(one.IsSameValueForDesignCheck(other), 0);
+  for (int place = 0; place < kStrengthTotal; ++place) {
+    const Strength& strength = kStrengths[place];
+    // In the lowest byte, in the highest one, and in all.
+    for (const int flag : {2, 0x01000001, -1}) {
+      CmqpMaterialData one;
+      CmqpMaterialData other;
+      one.*strength.has = 1;
+      other.*strength.has = flag;
+      EXPECT_EQ(one.IsSameValueForDesignCheck(other), place == kShear ? 1 : 0)
+          << strength.name << ", " << flag;
+    }
+  }
 }
 
 struct EqualityRow {
