@@ -47,7 +47,7 @@ using Address = std::uintptr_t;
 using Bytes = std::vector<unsigned char>;
 
 constexpr Address kPageSize = 4096;
-constexpr rlim_t kSeconds = 20;  // of a mutant that loops
+constexpr rlim_t kSeconds = 120;  // of a mutant that loops; a sweep that tells its reads needs 30
 constexpr rlim_t kMemory = rlim_t{4} << 30;
 
 struct Mutant {
