@@ -34,8 +34,7 @@ SUITES_OF = {
     "lists": ["mqListsTests", "mqDisplayTests"],
     "materials": ["mqMaterialsTests"],
     "display": ["mqDisplayTests"],
-    "platform": ["mqParamsTests", "mqDisplayTests", "mqMaterialsTests", "mqListsTests",
-                 "mqCatalogueTests"],
+    "platform": ["mqParamsTests", "mqDisplayTests", "mqMaterialsTests"],
 }
 STATIC_SUITE = "mqAllocationTests"  # linked with the objects of the library, run last
 HEADER_TESTS = {"case_folding": "wide_string"}  # tested by the test of another name

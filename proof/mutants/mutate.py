@@ -139,9 +139,7 @@ class Trial:
                 if noticed:
                     return noticed
         except CompileError as error:
-            words = str(error)
-            first = next((line for line in words.splitlines() if "error:" in line), words[:200])
-            return ("compiler" if REFUSED.search(words) else "invalid"), first.strip()
+            return verdict_of(str(error))
         return "survived", ""
 
     def together(self, path, mutants):
@@ -151,6 +149,8 @@ class Trial:
         changed, library = self.folder / "changed" / path, None
         for stage in stages(preset, path):
             objects = group.compile(changed, lambda: preset.compile(stage.targets, self.folder))
+            for mutant in list(group.refused):
+                yield mutant, verdict_of(group.refused.pop(mutant))
             if objects is None:
                 return
             programs, library = self._link(preset, stage, objects, library)
@@ -203,6 +203,12 @@ class Trial:
                 if noticed:
                     return noticed
         return None
+
+
+def verdict_of(words):
+    """What the words of the compiler make of a mutant."""
+    first = next((line for line in words.splitlines() if "error:" in line), words[:200])
+    return ("compiler" if REFUSED.search(words) else "invalid"), first.strip()
 
 
 @dataclass(frozen=True)

@@ -2,8 +2,8 @@
 
 The body of a function stands there once for each of its faults and once without any, the
 initializer of a member likewise. What the compiler evaluates is without a fault. So a fault that a
-test notices is killed as it would be alone, and everything else - what survives, what does not
-compile, what stands elsewhere - is left to be tried alone.
+test notices is killed as it would be alone, and in a function one that the compiler refuses on its
+own lines is refused as it would be alone. Everything else is left to be tried alone.
 """
 
 import re
@@ -117,14 +117,18 @@ def faults_within(faults, start, end):
 
 
 class Together:
-    """The faults in the functions of one file, by their numbers."""
+    """The faults in the functions and initializers of one file, by their numbers."""
 
     def __init__(self, path, text, mutants):
         self.path, self.text, source = path, text, Source(path, text)
-        self.places = sorted(function_bodies(source) + initializers(source))
+        bodies = function_bodies(source)
+        self.places = sorted(bodies + initializers(source))
         numbered = dict(enumerate(mutants, 1))
         self.faults = {number: fault for start, end in self.places
                        for number, fault in faults_within(numbered, start, end).items()}
+        # A type that is deduced of one copy is an error in another.
+        self.bodies = [body for body in bodies if "auto" not in text[text.rfind("\n\n", 0, body[0]) : body[0]]]
+        self.refused = {}
 
     def compile(self, changed, compile_file):
         """The objects with all faults that are C++; the others are taken out. None: not together."""
@@ -136,15 +140,20 @@ class Together:
             except CompileError as error:
                 wrong = blamed(self.path, lines, str(error))
                 for number in wrong or list(self.faults):
-                    del self.faults[number]
+                    fault = self.faults.pop(number)
+                    words = wrong.get(number, "")
+                    if "error:" in words and any(faults_within({0: fault}, *body) for body in self.bodies):
+                        self.refused[fault] = words
         return None
 
 
 def blamed(path, lines, words):
-    """The faults on the lines that the compiler names: of an error, else of what led to it."""
-    for kind in ("error", "  required from"):
-        places = {int(place) for place in re.findall(rf"{re.escape(path)}:(\d+):\d+: {kind}", words)}
-        wrong = [number for number, where in lines.items() if places & set(where)]
+    """The faults on the lines that the compiler names, of errors or of what led to them, and its words."""
+    for kind in ("error: .*", "  required from"):
+        places = {int(place): message for place, message in re.findall(
+            rf"{re.escape(path)}:(\d+):\d+: ({kind})", words)}
+        wrong = {number: next(places[line] for line in where if line in places)
+                 for number, where in lines.items() if places.keys() & set(where)}
         if wrong:
             return wrong
-    return []
+    return {}
