@@ -35,4 +35,16 @@ FAMILIES = {
         *rows(["graph record, written to memory"], (3.0, LIMIT)),
         *rows(["graph record, read from memory"], (8.0, LIMIT)),
     ],
+    "mqDisplayBench": [
+        *rows(["element none holds, in the list"], (1.3, LIMIT), bound_by_memory=True),
+        *rows(["colours of a list, few", "colours of a list, all different"],
+              (4.0, LIMIT), bound_by_memory=True),
+        *rows(["sort by last element"], (1.3, LIMIT), bound_by_memory=True),
+    ],
+    "mqMaterialsBench": [
+        *rows(["curve, temperatures random", "curve, temperatures swept"], (1.0, "GSL")),
+        *rows(["names of materials, few", "names of materials, all different"],
+              (4.0, LIMIT), bound_by_memory=True),
+        *rows(["units of element stresses"], (1.25, LIMIT), bound_by_memory=True),
+    ],
 }
