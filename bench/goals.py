@@ -27,10 +27,15 @@ FAMILIES = {
         *rows(["component total", "data type with members", "default component",
                "envelope bounds", "reference availability", "unit type",
                "default unit of a system", "vector direction"],
-              (2.5, LIMIT)),
-        *rows(["full name", "colour-bar name", "unit name"]),
-        *rows(["name to component, 10 candidates tried"]),
+              (2.5, LIMIT), (1 / 8, "unordered_map")),
+        *rows(["component total, each answer in the next question"], (1.3, "dense array")),
     ],
+    "mqNamesBench": [
+        *rows(["component name by value", "text of an id into the same buffer",
+               "colour-bar name by value", "unit name by value"], (0.5, LIMIT)),
+        *rows(["name to component, candidates tried"], (1.3, LIMIT)),
+    ],
+    "mqLoadingBench": rows(["load and unload"], (1.3, LIMIT)),
     "mqRecordsBench": [
         *rows(["graph record, written to memory"], (3.0, LIMIT)),
         *rows(["graph record, read from memory"], (8.0, LIMIT)),
