@@ -37,8 +37,10 @@ FAMILIES = {
     ],
     "mqLoadingBench": rows(["load and unload"], (1.3, LIMIT)),
     "mqRecordsBench": [
-        *rows(["graph record, written to memory"], (3.0, LIMIT)),
-        *rows(["graph record, read from memory"], (8.0, LIMIT)),
+        *rows(["graph record, written to memory"], (3.0, LIMIT), (1.0, PEERS)),
+        *rows(["graph record, read from memory"], (8.0, LIMIT), (1.0, PEERS)),
+        *rows(["equation record of 40 variables, written to memory"], (6.0, LIMIT), (1.0, PEERS)),
+        *rows(["equation record of 40 variables, read from memory"], (20.0, LIMIT), (1.0, PEERS)),
     ],
     "mqDisplayBench": [
         *rows(["element none holds, in the list"], (1.3, LIMIT), bound_by_memory=True),
