@@ -47,25 +47,22 @@ constexpr auto kOfferedNames = std::to_array<OfferedNames>({
 constexpr int kFirstVersion = 890109;
 
 /// Hands the fields of a variable to a visitor, in the order of the record.
-template <class Variable, class Visitor>
-void VisitVariable(Variable& variable, Visitor& visitor) {
+constexpr auto kVisitVariable = [](auto& variable, auto& visitor) {
   //               since          field                  member
   visitor.Strings (kFirstVersion, "name",                ValuesOf(variable.m_strName));
   visitor.Integers(kFirstVersion, "result type",         ValuesOf(variable.m_nResultType));
   visitor.Integers(kFirstVersion, "component",           ValuesOf(variable.m_nComponent));
   visitor.Doubles (kFirstVersion, "coefficient",         ValuesOf(variable.m_dCoefficient));
-}
+};
 
 /// Hands the fields of a plot to a visitor, in the order of the record.
-template <class Plot, class Visitor>
-void VisitPlot(Plot& plot, Visitor& visitor) {
-  const auto visitVariable = [&visitor](auto& variable) { VisitVariable(variable, visitor); };
+constexpr auto kVisitPlot = [](auto& plot, auto& visitor) {
   //               since          field                  member
   visitor.Strings (kFirstVersion, "equation",            ValuesOf(plot.m_strEquation));
   visitor.Integers(kFirstVersion, "coefficients flag",   ValuesOf(plot.m_nCoefficientsFlag));
   visitor.Strings (kFirstVersion, "two strings",         ValuesOf(plot.m_strHost3));
-  visitor.Records (kFirstVersion, "number of variables", plot.m_listVariables, visitVariable);
-}
+  visitor.Records (kFirstVersion, "number of variables", plot.m_listVariables, kVisitVariable);
+};
 // clang-format on
 
 CString Placeholder(int index) {
@@ -92,17 +89,15 @@ CString CmqEquationVariable::GetComponentName(int analysisType, int /*ignored*/,
 }
 
 int CmqEquationVariable::WriteToStream(IStream* stream, int /*version*/) const {
-  return mqp::WriteRecord(stream, [this](auto& writer) { mqp::VisitVariable(*this, writer); });
+  return mqp::WriteRecord(stream, *this, mqp::kVisitVariable);
 }
 
 int CmqEquationVariable::ReadFromStream(IStream* stream, int version) {
-  return mqp::ReadRecord(stream, version, mqp::kFirstVersion,
-                         [this](auto& reader) { mqp::VisitVariable(*this, reader); });
+  return mqp::ReadRecord(stream, version, mqp::kFirstVersion, *this, mqp::kVisitVariable);
 }
 
 std::vector<mqp::RecordField> CmqEquationVariable::GetRecordFields() {
-  const CmqEquationVariable variable;
-  return mqp::ListFields([&](auto& lister) { mqp::VisitVariable(variable, lister); });
+  return mqp::ListFields(CmqEquationVariable(), mqp::kVisitVariable);
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -174,15 +169,13 @@ void CmqEquationPlotParam::PrepareEquationToDisplay(int analysisType, int ignore
 }
 
 int CmqEquationPlotParam::WriteToStream(IStream* stream, int /*version*/) const {
-  return mqp::WriteRecord(stream, [this](auto& writer) { mqp::VisitPlot(*this, writer); });
+  return mqp::WriteRecord(stream, *this, mqp::kVisitPlot);
 }
 
 int CmqEquationPlotParam::ReadFromStream(IStream* stream, int version) {
-  return mqp::ReadRecord(stream, version, mqp::kFirstVersion,
-                         [this](auto& reader) { mqp::VisitPlot(*this, reader); });
+  return mqp::ReadRecord(stream, version, mqp::kFirstVersion, *this, mqp::kVisitPlot);
 }
 
 std::vector<mqp::RecordField> CmqEquationPlotParam::GetRecordFields() {
-  const CmqEquationPlotParam plot;
-  return mqp::ListFields([&](auto& lister) { mqp::VisitPlot(plot, lister); });
+  return mqp::ListFields(CmqEquationPlotParam(), mqp::kVisitPlot);
 }

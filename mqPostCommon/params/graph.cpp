@@ -52,8 +52,7 @@ constexpr int kRenumberedStressVersion = 890002;
 constexpr int kFirstRenumberedStress = 11;
 
 /// Hands the fields of a graph to a visitor, in the order of the record.
-template <class Graph, class Visitor>
-void VisitFields(Graph& graph, Visitor& visitor) {
+constexpr auto kVisitFields = [](auto& graph, auto& visitor) {
   // clang-format off
   //               since   field                                               member
   visitor.Integers(800018, "analysis type",                                    ValuesOf(graph.m_nAnalysisType));
@@ -89,7 +88,7 @@ void VisitFields(Graph& graph, Visitor& visitor) {
   visitor.Doubles (890005, "double after the four integers",                   ValuesOf(graph.m_dHost35));
   visitor.Integers(890110, "last integer",                                     ValuesOf(graph.m_nHost39));
   // clang-format on
-}
+};
 
 /// Whether what the Y axis shows always has a unit: reaction forces and moments, and in a Dynamic
 /// study the resultants.
@@ -280,12 +279,11 @@ void CmqPostGraphParam::SetDefaultOptionByPreferences(const preference* preferen
 }
 
 int CmqPostGraphParam::WriteToStream(IStream* stream) const {
-  return mqp::WriteRecord(stream, [this](auto& writer) { mqp::VisitFields(*this, writer); });
+  return mqp::WriteRecord(stream, *this, mqp::kVisitFields);
 }
 
 int CmqPostGraphParam::ReadFromStream(IStream* stream, int version) {
-  if (mqp::ReadRecord(stream, version, mqp::kFirstVersion,
-                      [this](auto& reader) { mqp::VisitFields(*this, reader); }) == 0) {
+  if (mqp::ReadRecord(stream, version, mqp::kFirstVersion, *this, mqp::kVisitFields) == 0) {
     return 0;
   }
   if (version >= mqp::kYUnitFlagVersion && m_nYUnitFlag == 0 && mqp::NeedsYUnit(*this)) {
@@ -299,6 +297,5 @@ int CmqPostGraphParam::ReadFromStream(IStream* stream, int version) {
 }
 
 std::vector<mqp::RecordField> CmqPostGraphParam::GetRecordFields() {
-  const CmqPostGraphParam graph;
-  return mqp::ListFields([&](auto& lister) { mqp::VisitFields(graph, lister); });
+  return mqp::ListFields(CmqPostGraphParam(), mqp::kVisitFields);
 }

@@ -18,12 +18,11 @@ struct ManyNumbers {
   int behind[300];
 };
 
-template <class Record, class Visitor>
-void VisitNumbers(Record& record, Visitor& visitor) {
+constexpr auto kVisitNumbers = [](auto& record, auto& visitor) {
   visitor.Integers(1, "before", ValuesOf(record.before));
   visitor.Doubles(1, "values", ValuesOf(record.values));
   visitor.Integers(1, "behind", ValuesOf(record.behind));
-}
+};
 
 ManyNumbers NumbersFrom(int first) {
   ManyNumbers numbers{};
@@ -54,7 +53,7 @@ ByteString BytesOf(const ManyNumbers& numbers) {
 TEST(RecordPrimitives, ManyNumbersInARowAreWritten) {
   const ManyNumbers numbers = NumbersFrom(1000);
   host::MemoryStream stream;
-  EXPECT_EQ(WriteRecord(&stream, [&](auto& writer) { VisitNumbers(numbers, writer); }), 1);
+  EXPECT_EQ(WriteRecord(&stream, numbers, kVisitNumbers), 1);
   EXPECT_EQ(stream.Bytes().size(), 7200U);
   EXPECT_EQ(ByteDifference(stream.Bytes(), BytesOf(numbers)), "");
 }
@@ -68,14 +67,9 @@ TEST(RecordPrimitives, ManyNumbersInARowAreReadAsFarAsTheStreamHasThem) {
     std::copy_n(stored.begin(), length, expected.begin());
     ManyNumbers numbers = NumbersFrom(-77);
     host::MemoryStream stream(FirstBytes(stored, length));
-    EXPECT_EQ(ReadRecord(&stream, 1, 1, [&](auto& reader) { VisitNumbers(numbers, reader); }), 1);
+    EXPECT_EQ(ReadRecord(&stream, 1, 1, numbers, kVisitNumbers), 1);
     ASSERT_EQ(ByteDifference(BytesOf(numbers), expected), "") << length << " bytes";
   }
-}
-
-template <class Record>
-auto Visiting(Record& record) {
-  return [&record](auto& visitor) { record.VisitFields(visitor); };
 }
 
 /// Every kind of field, each since a version of its own.
@@ -91,11 +85,15 @@ struct GatedRecord {
     visitor.Integers(10, "integer", ValuesOf(integer));
     visitor.Doubles(20, "number", ValuesOf(number));
     visitor.Strings(30, "text", ValuesOf(text));
-    visitor.Records(40, "children", children, [&visitor](CmqEquationVariable& child) {
-      visitor.Integers(40, "component", ValuesOf(child.m_nComponent));
+    visitor.Records(40, "children", children, [](auto& child, auto& inner) {
+      inner.Integers(40, "component", ValuesOf(child.m_nComponent));
     });
     visitor.Integers(50, "last", ValuesOf(last));
   }
+};
+
+constexpr auto kVisitGated = [](GatedRecord& record, auto& visitor) {
+  record.VisitFields(visitor);
 };
 
 TEST(RecordPrimitives, AFieldIsReadFromTheVersionOnThatHasIt) {
@@ -133,7 +131,7 @@ TEST(RecordPrimitives, AFieldIsReadFromTheVersionOnThatHasIt) {
     bytes.resize(bytes.size() + 16, std::byte{0x55});
     host::MemoryStream stream(bytes);
     GatedRecord read;
-    EXPECT_EQ(ReadRecord(&stream, row.version, 10, Visiting(read)), 1);
+    EXPECT_EQ(ReadRecord(&stream, row.version, 10, read, kVisitGated), 1);
     EXPECT_EQ(read.integer, row.integer);
     EXPECT_EQ(read.number, row.number);
     EXPECT_EQ(read.text, CString(row.text));

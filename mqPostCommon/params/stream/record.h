@@ -1,15 +1,15 @@
 // The two directions of a stream record. A class lists the fields of its record once, in a
 // function template that hands them to a visitor one after the other; RecordWriter,
-// RecordReader and FieldLister are the visitors, so that writing, reading and explaining a record
-// cannot differ.
+// FieldStorer, RecordReader and FieldLister are the visitors, so that writing, reading and
+// explaining a record cannot differ.
 //
 //     record := field*                  no tags, lengths, alignment or padding
 //     field  := integer | double | string | list
 //     list   := count record*           count := integer
 //
 // A visitor has four operations, each with the first document version that has the field:
-// Integers, Doubles, Strings and Records. The last one is given a list and a function that visits
-// the fields of one of its objects.
+// Integers, Doubles, Strings and Records. The last one is given a list and a function that hands
+// the fields of one of its objects to a visitor.
 #pragma once
 
 #include <algorithm>
@@ -32,33 +32,42 @@
 
 namespace mqp {
 
-/// A value of 4 or 8 bytes in the byte order of a stream, which is little-endian.
-template <class Value>
-void StoreLittleEndian(Value value, std::byte* bytes) noexcept {
-  std::memcpy(bytes, &value, sizeof(value));
+/// Turns each of so many values round where the machine's byte order is not that of a stream.
+template <std::size_t Size>
+void ReverseOnBigEndian(std::byte* bytes, std::size_t count) noexcept {
   if constexpr (std::endian::native == std::endian::big) {
-    std::reverse(bytes, bytes + sizeof(value));
+    for (; count > 0; --count, bytes += Size) {
+      std::reverse(bytes, bytes + Size);
+    }
   }
 }
+
+/// Stores values in the byte order of a stream, which is little-endian.
+/// \return the place behind them
 template <class Value>
-Value LoadLittleEndian(const std::byte* bytes) noexcept {
-  std::array<std::byte, sizeof(Value)> ordered;
-  std::copy_n(bytes, sizeof(Value), ordered.begin());
-  if constexpr (std::endian::native == std::endian::big) {
-    std::ranges::reverse(ordered);
-  }
-  Value value;
-  std::memcpy(&value, ordered.data(), sizeof(value));
-  return value;
+std::byte* StoreLittleEndian(std::span<const Value> values, std::byte* bytes) noexcept {
+  std::memcpy(bytes, values.data(), values.size_bytes());
+  ReverseOnBigEndian<sizeof(Value)>(bytes, values.size());
+  return bytes + values.size_bytes();
 }
+/// Loads as many values as there are, from bytes that are not needed any more.
+template <class Value>
+std::byte* LoadLittleEndian(std::byte* bytes, std::span<Value> values) noexcept {
+  ReverseOnBigEndian<sizeof(Value)>(bytes, values.size());
+  std::memcpy(values.data(), bytes, values.size_bytes());
+  return bytes + values.size_bytes();
+}
+
+/// The most bytes of the units of a text, and of the numbers of a field.
+inline constexpr std::size_t kMaximumTextSize = 2 * kMaximumStringRecordLength;
+inline constexpr std::size_t kMaximumFieldSize = 8192;
 
 /// A list of records is read up to this length. No document holds more; a count beyond it comes
 /// from damaged bytes, and no memory would suffice for the largest.
 inline constexpr int kMaximumRecordCount = 65536;
 
-/// Reads the characters of a string record whose count has been read.
-/// \return false for a count of 0 or less: nothing is read, and the text keeps its value
-bool ReadCharacters(IStream& stream, int count, CString& text);
+/// Takes the units of a string record for a text, up to the first zero.
+void TakeUnits(std::byte* bytes, int count, CString& text);
 
 /// Writes fields of every version. Fields that follow one another go into the stream in one call
 /// as far as the buffer has room; what the stream answers is not looked at. Nothing is complete
@@ -70,10 +79,10 @@ class RecordWriter {
   RecordWriter& operator=(const RecordWriter&) = delete;
 
   void Integers(int /*since*/, std::string_view /*name*/, std::span<const int> values) {
-    Fixed(values);
+    Store(values);
   }
   void Doubles(int /*since*/, std::string_view /*name*/, std::span<const double> values) {
-    Fixed(values);
+    Store(values);
   }
   void Strings(int /*since*/, std::string_view /*name*/, std::span<const CString> values) {
     for (const CString& text : values) {
@@ -85,7 +94,7 @@ class RecordWriter {
     const int count = list.GetCount();
     Integers(since, name, {&count, 1});
     for (POSITION position = list.GetHeadPosition(); position != nullptr;) {
-      visit(*list.GetNext(position));
+      visit(*list.GetNext(position), *this);
     }
   }
   void Finish() {
@@ -94,120 +103,173 @@ class RecordWriter {
   }
 
  private:
-  template <class Value>
-  void Fixed(std::span<const Value> values) {
-    for (const Value& value : values) {
-      Store(value);
-    }
-  }
   void Text(const CString& text) {
     const int count = std::min(text.GetLength(), kMaximumStringRecordLength);
+    Store(std::span(&count, 1));
+    if (count == 0) {
+      return;
+    }
     std::array<unsigned short, kMaximumStringRecordLength> units;
     const auto stored = std::span(units).first(static_cast<std::size_t>(count));
     std::ranges::fill(stored, static_cast<unsigned short>(0));  // should less be copied
     STRING2LPUSHORT(text, units.data(), kMaximumStringRecordLength);
-    Store(count);
-    for (const unsigned short unit : stored) {
-      Store(unit);
-    }
+    Store(std::span<const unsigned short>(stored));
   }
   template <class Value>
-  void Store(Value value) {
-    if (m_buffer.size() - m_used < sizeof(Value)) {
+  void Store(std::span<const Value> values) {
+    if (m_buffer.size() - m_used < values.size_bytes()) {
       Finish();
     }
-    StoreLittleEndian(value, m_buffer.data() + m_used);
-    m_used += sizeof(Value);
+    StoreLittleEndian(values, m_buffer.data() + m_used);
+    m_used += values.size_bytes();
   }
 
   IStream& m_stream;
-  std::array<std::byte, 4096> m_buffer;
+  std::array<std::byte, kMaximumFieldSize> m_buffer;
   std::size_t m_used = 0;
 };
 
-/// Reads the fields that a document of a version has; the others keep their values. Fixed fields
-/// that follow one another are read in one call over a buffer that holds their previous bytes:
-/// where the stream ends early, a field keeps the bytes that were not delivered. The fields have
-/// their values after `Finish`; those before a text or a list already when these are read.
+/// What a record is read through. Its bytes stand in the second part as they would in a record
+/// whose texts and lists are empty: each number is a member of its own, and a text or a list takes
+/// more room in an object than its count does here. The first part is room for the units of a text.
+template <class Object>
+struct ReadBuffer {
+  std::array<std::byte, kMaximumTextSize + sizeof(Object)> bytes;
+  std::array<std::byte*, sizeof(Object) / sizeof(int)> runEnds;
+};
+
+/// Puts the values that the fields of a version have into a buffer, 0 for every count, and marks
+/// the ends of the runs: behind each count, where the stream goes on with what is counted.
+class FieldStorer {
+ public:
+  FieldStorer(int version, std::byte* bytes, std::byte** runEnds)
+      : m_version(version), m_end(bytes), m_runEnd(runEnds) {}
+
+  void Integers(int since, std::string_view /*name*/, std::span<const int> values) {
+    Store(since, values);
+  }
+  void Doubles(int since, std::string_view /*name*/, std::span<const double> values) {
+    Store(since, values);
+  }
+  void Strings(int since, std::string_view /*name*/, std::span<const CString> values) {
+    for (std::size_t left = values.size(); left > 0; --left) {
+      Count(since);
+    }
+  }
+  template <class List, class Visit>
+  void Records(int since, std::string_view /*name*/, const List& /*list*/, Visit /*visit*/) {
+    Count(since);
+  }
+  void EndRun() { *m_runEnd++ = m_end; }
+
+ private:
+  template <class Value>
+  void Store(int since, std::span<const Value> values) {
+    if (m_version >= since) {
+      m_end = StoreLittleEndian(values, m_end);
+    }
+  }
+  void Count(int since) {
+    constexpr int kEmpty = 0;
+    Store(since, std::span(&kEmpty, 1));
+    if (m_version >= since) {
+      EndRun();
+    }
+  }
+
+  int m_version;
+  std::byte* m_end;
+  std::byte** m_runEnd;
+};
+
+template <class Object, class Visit>
+void ReadFields(IStream& stream, int version, Object& object, Visit visit);
+
+/// Reads the fields that a document of a version has; the others keep their values. A run of
+/// numbers is read in one call, with the count behind it and the text before it, over a buffer that
+/// holds their previous bytes: where the stream ends early, a field keeps the bytes that were not
+/// delivered.
 class RecordReader {
  public:
-  RecordReader(IStream& stream, int version) : m_stream(stream), m_version(version) {}
-  RecordReader(const RecordReader&) = delete;
-  RecordReader& operator=(const RecordReader&) = delete;
+  /// \param bytes what a `FieldStorer` has stored, behind room for the units of a text
+  RecordReader(IStream& stream, int version, std::byte* bytes, std::byte** runEnds)
+      : m_stream(stream), m_version(version), m_bytes(bytes), m_runEnd(runEnds) {
+    ReadRun(bytes);
+  }
 
   void Integers(int since, std::string_view /*name*/, std::span<int> values) {
-    Fixed(since, values);
+    Load(since, values);
   }
   void Doubles(int since, std::string_view /*name*/, std::span<double> values) {
-    Fixed(since, values);
+    Load(since, values);
   }
   void Strings(int since, std::string_view /*name*/, std::span<CString> values) {
     for (CString& text : values) {
-      ReadCharacters(m_stream, ReadCount(since), text);
+      Text(since, text);
     }
   }
   /// Appends to the list. Nothing is reserved: only as many objects are made as are read.
   template <class Object, class Visit>
   void Records(int since, std::string_view /*name*/, OwnedList<Object>& list, Visit visit) {
-    const int count = std::min(ReadCount(since), kMaximumRecordCount);
-    for (int place = 0; place < count; ++place) {
-      visit(list.Append(std::make_unique<Object>()));
-    }
-  }
-  void Finish() {
-    if (m_used == 0) {
-      return;
-    }
-    m_stream.Read(m_buffer.data(), static_cast<ULONG>(m_used), nullptr);
-    const std::byte* bytes = m_buffer.data();
-    for (const Target& target : std::span(m_targets).first(m_targetCount)) {
-      if (target.size == sizeof(int)) {
-        *static_cast<int*>(target.value) = LoadLittleEndian<int>(bytes);
-      } else {
-        *static_cast<double*>(target.value) = LoadLittleEndian<double>(bytes);
-      }
-      bytes += target.size;
-    }
-    m_used = 0;
-    m_targetCount = 0;
-  }
-
- private:
-  struct Target {
-    void* value;
-    std::size_t size;
-  };
-
-  template <class Value>
-  void Fixed(int since, std::span<Value> values) {
     if (m_version < since) {
       return;
     }
-    for (Value& value : values) {
-      if (m_buffer.size() - m_used < sizeof(Value)) {
-        Finish();
-      }
-      StoreLittleEndian(value, m_buffer.data() + m_used);
-      m_used += sizeof(Value);
-      m_targets[m_targetCount++] = {&value, sizeof(Value)};
+    const int count = std::min(LoadCount(), kMaximumRecordCount);
+    for (int place = 0; place < count; ++place) {
+      ReadFields(m_stream, m_version, list.Append(std::make_unique<Object>()), visit);
+    }
+    ReadRun(m_bytes);
+  }
+
+ private:
+  template <class Value>
+  void Load(int since, std::span<Value> values) {
+    if (m_version >= since) {
+      m_bytes = LoadLittleEndian(m_bytes, values);
     }
   }
-  /// Together with the fields before it; 0 as far as the stream does not deliver it, and in a
-  /// version that does not have it.
-  int ReadCount(int since) {
+  int LoadCount() {
     int count = 0;
-    Integers(since, {}, {&count, 1});
-    Finish();
+    m_bytes = LoadLittleEndian(m_bytes, std::span(&count, 1));
     return count;
+  }
+  /// The units are read to where the bytes of earlier fields were, zeroes before, so that a stream
+  /// that ends early ends the text.
+  void Text(int since, CString& text) {
+    if (m_version < since) {
+      return;
+    }
+    const int count = std::clamp(LoadCount(), 0, kMaximumStringRecordLength);
+    std::byte* const units = m_bytes - 2 * count;
+    std::fill(units, m_bytes, std::byte{0});
+    ReadRun(units);
+    if (count > 0) {
+      TakeUnits(units, count, text);
+    }
+  }
+  void ReadRun(std::byte* first) {
+    const auto size = static_cast<ULONG>(*m_runEnd++ - first);
+    if (size > 0) {
+      m_stream.Read(first, size, nullptr);
+    }
   }
 
   IStream& m_stream;
   int m_version;
-  std::array<std::byte, 512> m_buffer;
-  std::array<Target, 512 / sizeof(int)> m_targets;  // the smallest fields fill both
-  std::size_t m_used = 0;
-  std::size_t m_targetCount = 0;
+  std::byte* m_bytes;
+  std::byte** m_runEnd;
 };
+
+template <class Object, class Visit>
+void ReadFields(IStream& stream, int version, Object& object, Visit visit) {
+  ReadBuffer<Object> buffer;
+  std::byte* const bytes = buffer.bytes.data() + kMaximumTextSize;
+  FieldStorer storer(version, bytes, buffer.runEnds.data());
+  visit(object, storer);
+  storer.EndRun();
+  RecordReader reader(stream, version, bytes, buffer.runEnds.data());
+  visit(object, reader);
+}
 
 /// Lists the fields; neighbours of one name are one field.
 class FieldLister {
@@ -247,42 +309,42 @@ std::span<Value> ValuesOf(Value& value) noexcept {
 }
 template <class Value, std::size_t Count>
 std::span<Value> ValuesOf(Value (&values)[Count]) noexcept {
+  static_assert(sizeof(values) <= kMaximumFieldSize);
   return values;
 }
 template <class Value, std::size_t Rows, std::size_t Columns>
 std::span<Value> ValuesOf(Value (&values)[Rows][Columns]) noexcept {
+  static_assert(sizeof(values) <= kMaximumFieldSize);
   return {&values[0][0], Rows * Columns};
 }
 
 /// Writes the record whose fields `visit` hands to a visitor; the answer of `WriteToStream`.
-template <class Visit>
-int WriteRecord(IStream* stream, Visit visit) {
+template <class Object, class Visit>
+int WriteRecord(IStream* stream, const Object& object, Visit visit) {
   if (stream == nullptr) {
     return 0;
   }
   RecordWriter writer(*stream);
-  visit(writer);
+  visit(object, writer);
   writer.Finish();
   return 1;
 }
 
 /// Reads it from a document of a version; the answer of `ReadFromStream`.
 /// \param first the first version that has the record
-template <class Visit>
-int ReadRecord(IStream* stream, int version, int first, Visit visit) {
+template <class Object, class Visit>
+int ReadRecord(IStream* stream, int version, int first, Object& object, Visit visit) {
   if (stream == nullptr || version < first) {
     return 0;
   }
-  RecordReader reader(*stream, version);
-  visit(reader);
-  reader.Finish();
+  ReadFields(*stream, version, object, visit);
   return 1;
 }
 
-template <class Visit>
-std::vector<RecordField> ListFields(Visit visit) {
+template <class Object, class Visit>
+std::vector<RecordField> ListFields(const Object& object, Visit visit) {
   FieldLister lister;
-  visit(lister);
+  visit(object, lister);
   return lister.Take();
 }
 

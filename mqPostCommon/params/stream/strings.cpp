@@ -1,39 +1,17 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <span>
 
 #include <mqPostCommon/params/stream/record.h>
 #include <mqPostCommon/params/stream/strings.h>
 
-namespace {
-
-constexpr std::size_t kCountBytes = 4;
-constexpr std::size_t kUnitBytes = 2;
-constexpr std::size_t kMaximumBytes = kUnitBytes * mqp::kMaximumStringRecordLength;
-
-}  // namespace
-
-bool mqp::ReadCharacters(IStream& stream, int count, CString& text) {
-  const int stored = std::min(count, kMaximumStringRecordLength);
-  if (stored < 1) {
-    return false;
-  }
-  // Zeroed, so that a stream that ends early ends the text.
-  std::array<std::byte, kMaximumBytes> bytes{};
-  stream.Read(bytes.data(), static_cast<ULONG>(kUnitBytes * static_cast<std::size_t>(stored)),
-              nullptr);
-
+void mqp::TakeUnits(std::byte* bytes, int count, CString& text) {
   std::array<mqChar, kMaximumStringRecordLength> units;
-  int length = 0;
-  for (; length < stored; ++length) {
-    const auto place = static_cast<std::size_t>(length);
-    units[place] = LoadLittleEndian<mqChar>(bytes.data() + kUnitBytes * place);
-    if (units[place] == 0) {
-      break;
-    }
-  }
-  text = CString(units.data(), length);
-  return true;
+  const auto taken = std::span(units).first(static_cast<std::size_t>(count));
+  LoadLittleEndian(bytes, taken);
+  const auto end = std::ranges::find(taken, mqChar{0});
+  text = CString(units.data(), static_cast<int>(end - taken.begin()));
 }
 
 int CStringWriteToStream(IStream* stream, CString* text) {
@@ -50,8 +28,18 @@ int CStringReadFromStream(IStream* stream, CString* text) {
   if (stream == nullptr || text == nullptr) {
     return 0;
   }
-  std::array<std::byte, kCountBytes> countBytes{};
-  stream->Read(countBytes.data(), kCountBytes, nullptr);
-  const int count = mqp::LoadLittleEndian<int>(countBytes.data());
-  return mqp::ReadCharacters(*stream, count, *text) ? 1 : 0;
+  std::array<std::byte, mqp::kMaximumTextSize> bytes;
+  int count = 0;
+  std::fill_n(bytes.data(), sizeof(count), std::byte{0});
+  stream->Read(bytes.data(), sizeof(count), nullptr);
+  mqp::LoadLittleEndian(bytes.data(), std::span(&count, 1));
+  if (count < 1) {
+    return 0;
+  }
+  count = std::min(count, mqp::kMaximumStringRecordLength);
+  const auto size = sizeof(mqChar) * static_cast<std::size_t>(count);
+  std::fill_n(bytes.data(), size, std::byte{0});
+  stream->Read(bytes.data(), static_cast<ULONG>(size), nullptr);
+  mqp::TakeUnits(bytes.data(), count, *text);
+  return 1;
 }
