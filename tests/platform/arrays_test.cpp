@@ -129,6 +129,42 @@ TEST(Array, ElementsAreRemovedAtTheFrontInTheMiddleAndAtTheEnd) {
   EXPECT_TRUE(array.IsEmpty());
 }
 
+TEST(Array, RemovingNothingLeavesTextsAsTheyAre) {
+  Texts array;
+  array.Add(MQ_TEXT("a"));
+  array.Add(kLongText);
+  array.RemoveAt(0, 0);
+  EXPECT_EQ(Read(array), (std::vector<CString>{MQ_TEXT("a"), kLongText}));
+}
+
+/// A number that can only be copied, as far as an array can tell.
+struct CopiedNumber {
+  CopiedNumber(int number = 0) : value(number) {}  // NOLINT(google-explicit-constructor)
+  CopiedNumber(const CopiedNumber& other) : value(other.value) {}  // NOLINT: may throw
+  CopiedNumber& operator=(const CopiedNumber&) = default;
+  ~CopiedNumber() = default;
+  bool operator==(const CopiedNumber&) const = default;
+  int value;
+};
+
+TEST(Array, ElementsThatAreCopiedAreRemovedAtTheFrontInTheMiddleAndAtTheEnd) {
+  static_assert(!std::is_nothrow_move_constructible_v<CopiedNumber>);
+  CArray<CopiedNumber> array;
+  for (const int number : {1, 2, 3, 4, 5, 6, 7}) {
+    array.Add(number);
+  }
+  array.RemoveAt(0);
+  EXPECT_EQ(Read(array), (std::vector<CopiedNumber>{2, 3, 4, 5, 6, 7}));
+  array.RemoveAt(5);
+  EXPECT_EQ(Read(array), (std::vector<CopiedNumber>{2, 3, 4, 5, 6}));
+  array.RemoveAt(1, 2);
+  EXPECT_EQ(Read(array), (std::vector<CopiedNumber>{2, 5, 6}));
+  array.RemoveAt(1, 0);
+  EXPECT_EQ(Read(array), (std::vector<CopiedNumber>{2, 5, 6}));
+  array.RemoveAt(0, 3);
+  EXPECT_TRUE(array.IsEmpty());
+}
+
 TEST(Array, AppendReturnsTheIndexOfTheFirstNewElement) {
   Integers array = Filled({1, 2});
   EXPECT_EQ(array.Append(Filled({3, 4})), 2);

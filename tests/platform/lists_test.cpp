@@ -84,6 +84,12 @@ TEST(LinkedList, ValuesGoWithTheListThatHoldsThem) {
     mqp::LinkedList<Copied> list;
     list.AddTail(Copied(count));
     list.AddTail(Copied(count));
+    list.AddTail(Copied(count));
+    list.AddTail(Copied(count));
+    EXPECT_EQ(count, 4);
+    list.RemoveAt(list.GetHeadPosition());
+    EXPECT_EQ(count, 3);
+    list.RemoveTail();
     EXPECT_EQ(count, 2);
     mqp::LinkedList<Copied> other;
     other.AddHead(Copied(count));
