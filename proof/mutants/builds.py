@@ -31,7 +31,7 @@ SUITES = {
 SUITES_OF = {
     "catalogue": ["mqCatalogueTests", "mqInterpositionTests", "mqParamsTests", "mqListsTests"],
     "params": ["mqParamsTests", "mqListsTests", "mqMaterialsTests", "mqFaultTests"],
-    "lists": ["mqListsTests", "mqDisplayTests"],
+    "lists": ["mqListsTests"],
     "materials": ["mqMaterialsTests"],
     "display": ["mqDisplayTests"],
     "platform": ["mqParamsTests", "mqDisplayTests", "mqMaterialsTests"],
