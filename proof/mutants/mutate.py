@@ -5,9 +5,9 @@ One fault at a time is planted into the sources of mqPostCommon/ (operators.py l
 the affected objects are compiled, the library is linked and the suites run until one fails. Faults
 within functions are compiled many at once and one is switched on (together.py); what is not
 noticed so is tried alone. What no suite notices is tried again with the address and
-undefined-behaviour sanitizers. A fault that is
-noticed is killed; one that is not has survived, which is a missing test, unless equivalents.tsv
-says why it changes nothing that anybody could notice.
+undefined-behaviour sanitizers. A fault that is noticed is killed; one that is not has survived,
+which is a missing test, unless equivalents.tsv says why it changes nothing that anybody could
+notice.
 
 Readers and writers of records and the code that owns objects must lose every fault, the core 95 of
 100: that is the whole library but for the rows of the hand-ruled tables, whose cells proof/tables
@@ -15,9 +15,10 @@ changes in the compiled library (operators.py says which). A fault that static_a
 evaluation of a constant refuses counts as killed by the compiler; one that is no C++ does not
 count at all.
 
-  mutate.py --sample 120            some faults of every file (CI)
-  mutate.py --changed-since main    the lines that differ from a revision
-  mutate.py --all                   every fault: many hours
+  mutate.py --sample 120            some faults of every file
+  mutate.py --changed-since main    the lines that differ from a revision; with --sample 120 as
+                                    many of these before as many of the others (./dev test)
+  mutate.py --all                   every fault: hours
 """
 
 import argparse
@@ -377,10 +378,9 @@ def judge_gates(mutants, verdicts, seconds):
 def parse():
     parser = argparse.ArgumentParser(description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
-    choice = parser.add_mutually_exclusive_group(required=True)
-    choice.add_argument("--all", action="store_true", help="every fault")
-    choice.add_argument("--sample", type=int, metavar="N", help="N faults, of every file about as many")
-    choice.add_argument("--changed-since", metavar="REV", help="faults of the lines changed since REV")
+    parser.add_argument("--all", action="store_true", help="every fault")
+    parser.add_argument("--sample", type=int, metavar="N", help="N faults, of every file about as many")
+    parser.add_argument("--changed-since", metavar="REV", help="faults of the lines changed since REV")
     parser.add_argument("--seed", default="1", help="of the sample")
     parser.add_argument("--files", nargs="+", default=["*"], metavar="GLOB",
                         help="only in these files, e.g. 'mqPostCommon/params/*'")
@@ -394,7 +394,21 @@ def parse():
                         help="do not try again with sanitizers what survived")
     parser.add_argument("--list", action="store_true", help="only print the faults")
     parser.add_argument("--verbose", action="store_true", help="print every verdict")
-    return parser.parse_args()
+    options = parser.parse_args()
+    if options.all == bool(options.sample or options.changed_since):
+        parser.error("say either --all or which faults: --sample, --changed-since")
+    return options
+
+
+def choose(mutants, options):
+    """Those that the command line asks for; of changed lines first."""
+    lines = changed_lines(options.changed_since) if options.changed_since else set()
+    changed = [mutant for mutant in mutants if (mutant.path, mutant.line) in lines]
+    if not options.sample:
+        return changed if options.changed_since else mutants
+    others = [mutant for mutant in mutants if (mutant.path, mutant.line) not in lines]
+    return [mutant for some in (changed, others)
+            for mutant in sample(some, options.sample, options.seed)]
 
 
 def main():
@@ -407,11 +421,7 @@ def main():
         print(f"equivalents.tsv: no such fault: {path}: {line}: {change}")
 
     mutants = [mutant for mutant in every if any(fnmatch(mutant.path, glob) for glob in options.files)]
-    if options.changed_since:
-        lines = changed_lines(options.changed_since)
-        mutants = [mutant for mutant in mutants if (mutant.path, mutant.line) in lines]
-    if options.sample:
-        mutants = sample(mutants, options.sample, options.seed)
+    mutants = choose(mutants, options)
     print(f"{len(mutants)} of {len(every)} faults")
     if options.list:
         print("\n".join(mutant.key for mutant in mutants))
