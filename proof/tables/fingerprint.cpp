@@ -157,7 +157,7 @@ void ForEachCell(Walk& walk, Work work) {
 
 template <class Work>
 void ForEachDisplayFlag(Work work) {
-  for (const int flag : kThreeValues) {
+  for (const int flag : kSwitch) {
     vekPostCommonSetActualFreqDispFlag(flag);
     work();
   }

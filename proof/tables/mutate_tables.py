@@ -220,16 +220,12 @@ class Runner:
             path.unlink()
         return said, found
 
-    def run_suite(self, program, test_filter, mutants, is_quick=False):
-        """The outcomes; a mutant of what the tests do not read has none.
-
-        Few mutants are quicker in the shipped library, each from the start on.
-        """
+    def run_suite(self, program, test_filter, mutants):
+        """The outcomes; a mutant of what the tests do not read has none."""
         found = {}
         for is_told, mode, folder in ((True, "read", TOLD / "bin"), (False, "start", BIN)):
             group = [mutant for mutant in mutants
-                     if (not is_quick and
-                         self.is_told(self.tables[mutant.table], program)) == is_told]
+                     if self.is_told(self.tables[mutant.table], program) == is_told]
             if group:
                 found.update(self.run(program, group, mode, folder,
                                       f"{test_filter}:{LEFT_OUT_TESTS}")[1])
@@ -419,9 +415,9 @@ class Run:
         """Every suite, until one fails."""
         for suite in SUITES:
             left = [mutant for mutant in mutants if self.is_alive(mutant)]
-            parts = [left[start::self.jobs * 2] for start in range(self.jobs * 2)]
+            parts = [left[start::self.jobs] for start in range(self.jobs)]
             for outcomes in self.in_turn(
-                    lambda part, suite=suite: self.runner.run_suite(suite, "*", part, True),
+                    lambda part, suite=suite: self.runner.run_suite(suite, "*", part),
                     [part for part in parts if part]):
                 self.outcomes.update(outcomes)
 
@@ -455,10 +451,10 @@ def report(all_tables, mutants, equivalent_ids, outcomes):
 
 def parse_arguments():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    chosen = parser.add_mutually_exclusive_group()
-    chosen.add_argument("--sample", type=int, default=20, metavar="N",
-                        help="N mutants of each table (default 20)")
-    chosen.add_argument("--all", action="store_true", help="every mutant")
+    parser.add_argument("--sample", type=int, default=20, metavar="N",
+                        help="N mutants of each table (default 20); with --all those of the "
+                             "equivalents that are tried against the tests too")
+    parser.add_argument("--all", action="store_true", help="every mutant")
     parser.add_argument("--seed", type=int, default=1, help="of the sample (default 1)")
     parser.add_argument("--tables", default=".*", metavar="REGEX", help="these tables alone")
     parser.add_argument("--jobs", type=int, default=2)
@@ -497,11 +493,14 @@ def main():
                    for change in run.changed_together(unread)]
     print(f"{len(equivalents)} of {len(asked)} are equivalent, {len(unread)} of them never read "
           f"({time.monotonic() - began:.0f} s)", flush=True)
-    run.try_first(mutants)
-    print(f"{sum(map(run.is_alive, mutants))} live on after the first tries "
-          f"({time.monotonic() - began:.0f} s)", flush=True)
     equivalent_ids = {mutant.id for mutant in equivalents}
-    run.try_suites([mutant for mutant in mutants if mutant.id not in equivalent_ids])
+    others = [mutant for mutant in mutants if mutant.id not in equivalent_ids]
+    # That an equivalent survives is seen by some of them: they live through all that is tried.
+    run.try_first(others + sample_of(equivalents, arguments.sample if arguments.all else 0,
+                                     arguments.seed))
+    print(f"{sum(map(run.is_alive, others))} live on after the first tries "
+          f"({time.monotonic() - began:.0f} s)", flush=True)
+    run.try_suites(others)
     seconds = time.monotonic() - began
     shutil.rmtree(folder)
 

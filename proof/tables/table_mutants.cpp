@@ -36,6 +36,7 @@
 #include <cstring>
 #include <fstream>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -80,14 +81,22 @@ int outcomes = -1;
 
 void Write(const Mutant& mutant, const Bytes& bytes) {
   for (const Address copy : copies[mutant.table]) {
-    const Address begin = copy + mutant.offset;
-    const Address page = begin / kPageSize * kPageSize;
-    if (mprotect(reinterpret_cast<void*>(page), begin + bytes.size() - page,
-                 PROT_READ | PROT_WRITE) != 0) {
-      Fail("a table cannot be made writable");
+    std::ranges::copy(bytes, reinterpret_cast<unsigned char*>(copy + mutant.offset));
+  }
+}
+
+void MakeWritable() {
+  std::set<Address> pages;
+  for (const Mutant& mutant : mutants) {
+    for (const Address copy : copies[mutant.table]) {
+      pages.insert((copy + mutant.offset) / kPageSize);
+      pages.insert((copy + mutant.offset + mutant.bytes.size() - 1) / kPageSize);
     }
-    for (std::size_t place = 0; place < bytes.size(); ++place) {
-      reinterpret_cast<unsigned char*>(begin)[place] = bytes[place];
+  }
+  for (const Address page : pages) {
+    if (mprotect(reinterpret_cast<void*>(page * kPageSize), kPageSize, PROT_READ | PROT_WRITE) !=
+        0) {
+      Fail("a table cannot be made writable");
     }
   }
 }
@@ -283,6 +292,7 @@ int Begin() {
   mode = Setting("MQ_MODE");
   outcomes = open(Setting("MQ_OUTCOMES"), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
   ReadWork(Setting("MQ_MUTANTS"));
+  MakeWritable();
   if (mode == "start") {
     for (const Mutant& mutant : mutants) {
       if (RunAsMutant(mutant)) {
