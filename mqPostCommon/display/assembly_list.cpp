@@ -1,5 +1,7 @@
 #include <algorithm>
+#include <array>
 #include <bit>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -11,6 +13,7 @@
 
 #include <mqPostCommon/display/assembly_list.h>
 #include <mqPostCommon/lists/pairs.h>
+#include <mqPostCommon/platform/lookup_tables.h>
 
 namespace mqp {
 namespace {
@@ -77,17 +80,41 @@ constexpr bool HasRangeOffZero(const CDspAsmComp& component) noexcept {
   return component.m_nFirstElem != 0 && component.m_nLastElem != 0;
 }
 
-// Colours are told apart by their four floats, where -0 equals 0.
-struct ColorHash {
-  std::size_t operator()(const COGLColor& color) const noexcept {
-    std::uint64_t hash = 0;
-    for (const float part : {color.Red(), color.Green(), color.Blue(), color.Alpha()}) {
-      hash = (hash ^ std::bit_cast<std::uint32_t>(part + 0.0F)) * 0x9E3779B97F4A7C15U;
-      hash ^= hash >> 32;
-    }
-    return static_cast<std::size_t>(hash);
+using Colors = CArray<COGLColor, COGLColor>;
+using ColorParts = std::array<float, 4>;
+using ColorBits = std::array<std::uint64_t, 2>;
+
+/// A colour that is not made of numbers equals no other.
+bool IsOfNumbers(const COGLColor& color) noexcept {
+  const auto parts = std::bit_cast<ColorParts>(color);
+  return std::ranges::none_of(parts, [](float part) { return std::isnan(part); });
+}
+
+/// The same for colours of numbers that are equal: -0 becomes 0.
+ColorBits BitsOf(const COGLColor& color) noexcept {
+  auto parts = std::bit_cast<ColorParts>(color);
+  for (float& part : parts) {
+    part += 0.0F;
   }
-};
+  return std::bit_cast<ColorBits>(parts);
+}
+
+std::uint32_t KeyOf(const ColorBits& bits) noexcept {
+  constexpr std::uint64_t kGoldenRatio = 0x9E3779B97F4A7C15U;
+  return static_cast<std::uint32_t>((bits[0] * kGoldenRatio ^ bits[1]) * kGoldenRatio >> 32);
+}
+
+/// Whether `colors` lacks a colour. `places` knows where each of them is, and takes note that this
+/// one comes next.
+bool IsNew(const COGLColor& color, const Colors& colors, KeyTable& places) {
+  if (!IsOfNumbers(color)) {
+    return true;
+  }
+  const ColorBits bits = BitsOf(color);
+  const int next = colors.GetSize();
+  const auto isSame = [&](int place) { return BitsOf(colors[place]) == bits; };
+  return places.FindOrAdd(KeyOf(bits), next, isSame) == next;
+}
 
 int CompareKeys(const void* left, const void* right) noexcept {
   const int leftKey = static_cast<const CVekIntPair*>(left)->m_nSecond;
@@ -194,9 +221,11 @@ int CDspAsmCompList::HasPostCompMissing(const CDspAsmCompList& other) const {
 }
 
 int CDspAsmCompList::GetVisPartIndex_1based(int elem, int* index) const noexcept {
-  // The range comes first: it alone is read of a component that does not hold the element.
+  // One comparison, which nearly always has the same outcome, is made of a component that does not
+  // hold the element, and its range alone is read. It lets pass some that are no ranges.
   const CDspAsmComp* holder = mqp::FindFirst(*this, [elem](const CDspAsmComp& component) {
-    return component.m_nFirstElem <= elem && elem <= component.m_nLastElem &&
+    const unsigned first = mqp::Wrapping(component.m_nFirstElem);
+    return mqp::Wrapping(elem) - first <= mqp::Wrapping(component.m_nLastElem) - first &&
            component.PostAvailable() != 0 && component.m_bHidden == 0;
   });
   if (holder == nullptr) {
@@ -319,19 +348,16 @@ int CDspAsmCompList::MakeColorList(CArray<COGLColor, COGLColor>* colors,
   }
   colors->RemoveAll();
   bottomColors->RemoveAll();
-  std::unordered_set<COGLColor, mqp::ColorHash> known;  // what `colors` holds
-  const auto addColor = [&](const COGLColor& color) {
-    colors->Add(color);
-    known.insert(color);
-  };
+  mqp::KeyTable places;
   for (const CDspAsmComp& component : mqp::Components(*this)) {
     const bool isFirst = colors->IsEmpty();
-    if (known.contains(component.m_Color)) {
+    if (!mqp::IsNew(component.m_Color, *colors, places)) {
       continue;
     }
-    addColor(component.m_Color);
+    colors->Add(component.m_Color);
     if (!isFirst) {  // on purpose: the bottom colour of the first one stays out
-      addColor(component.m_BottomColor);
+      static_cast<void>(mqp::IsNew(component.m_BottomColor, *colors, places));
+      colors->Add(component.m_BottomColor);
     }
     bottomColors->Add(component.m_BottomColor);
   }

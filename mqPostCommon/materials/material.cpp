@@ -1,12 +1,11 @@
 #include <algorithm>
 #include <array>
 #include <string>
-#include <unordered_set>
 #include <utility>
 
 #include <mqPostCommon/catalogue/codes.h>
 #include <mqPostCommon/materials/material.h>
-#include <mqPostCommon/platform/case_folding.h>
+#include <mqPostCommon/platform/lookup_tables.h>
 
 namespace mqp {
 namespace {
@@ -81,13 +80,6 @@ int FindBody(const CmqpMaterialDataList& list, long bodyId, int secondaryId) noe
     }
   }
   return index;
-}
-
-/// Equal for names that differ in letter case alone.
-std::basic_string<mqChar> MakeNameKey(const CString& name) {
-  std::basic_string<mqChar> key(name.View());
-  std::ranges::transform(key, key.begin(), FoldCase);
-  return key;
 }
 
 }  // namespace
@@ -218,11 +210,12 @@ int CmqpMaterialDataList::GetByBodyID(long bodyId, CmqpMaterialData* out, int* i
 
 unsigned long long CmqpMaterialDataList::GetUniqueMaterialList(std::vector<int>& indices) const {
   indices.assign(1, 0);
-  std::unordered_set<std::basic_string<mqChar>> names;
+  mqp::TextTable names;
+  std::basic_string<mqChar> folded;
   for (int index = 0; index < m_arrMaterials.GetSize(); ++index) {
-    const bool isNew =
-        names.insert(mqp::MakeNameKey(m_arrMaterials[index].m_strMaterialName)).second;
-    if (isNew && index > 0) {
+    const int known = names.GetSize();
+    mqp::FoldText(m_arrMaterials[index].m_strMaterialName.View(), folded);
+    if (names.FindOrAdd(folded) == known && index > 0) {
       indices.push_back(index);
     }
   }

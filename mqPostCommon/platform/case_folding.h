@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include <mqPostCommon/platform/text.h>
@@ -223,8 +224,8 @@ static_assert(std::ranges::adjacent_find(kFoldingRanges, [](const auto& left, co
                 return left.last >= right.first;
               }) == kFoldingRanges.end());
 
-/// The code unit that stands for `unit` in a comparison without case.
-constexpr mqChar FoldCase(mqChar unit) noexcept {
+/// `FoldCase` as the rows say it.
+constexpr mqChar SearchFolding(mqChar unit) noexcept {
   const auto range = std::ranges::lower_bound(
       kFoldingRanges, unit, {},
       [](const FoldingRange& row) { return static_cast<mqChar>(row.last); });
@@ -233,6 +234,20 @@ constexpr mqChar FoldCase(mqChar unit) noexcept {
     return unit;
   }
   return static_cast<mqChar>(unit + range->distance);
+}
+
+/// What the code units of most names fold to.
+inline constexpr auto kFoldedFirst = [] {
+  std::array<mqChar, 0x100> folded{};
+  for (std::size_t unit = 0; unit < folded.size(); ++unit) {
+    folded[unit] = SearchFolding(static_cast<mqChar>(unit));
+  }
+  return folded;
+}();
+
+/// The code unit that stands for `unit` in a comparison without case.
+constexpr mqChar FoldCase(mqChar unit) noexcept {
+  return unit < kFoldedFirst.size() ? kFoldedFirst[unit] : SearchFolding(unit);
 }
 
 }  // namespace mqp
