@@ -12,6 +12,7 @@
 #include <random>
 #include <span>
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -59,41 +60,60 @@ constexpr int kStride = 12;  // ten elements of a component and two of none
 // The enricher keeps index 0, which is otherwise taken for no value.
 using ByInterval = boost::icl::interval_map<int, int, boost::icl::partial_enricher>;
 
-/// Components in random order. Elements are asked for that some component holds, and in `gaps`
-/// such as none does.
+/// Components in random order.
+Components MakeElements(int count) {
+  Components list;
+  for (const int number : ShuffledNumbers(count)) {
+    const int first = kStride * number;
+    CDspAsmComp component(number, first, first + 9, COGLColor(), 0);
+    component.m_nVisIndexBase = 10 * number + 1;
+    component.m_nBodyID = 7 * number;
+    list.Add(component);
+  }
+  return list;
+}
+
+/// Elements are asked for that some component holds, and in `gaps` such as none does.
 struct Elements {
-  explicit Elements(int count) {
-    int index = 0;
-    for (const int number : ShuffledNumbers(count)) {
-      const int first = kStride * number;
-      CDspAsmComp component(number, first, first + 9, COGLColor(), 0);
-      component.m_nVisIndexBase = 10 * number + 1;
-      byInterval.set({boost::icl::interval<int>::closed(first, first + 9), index++});
-      list.Add(component);
+  explicit Elements(int count)
+      : list(MakeElements(count)), index(list), dense(static_cast<std::size_t>(count), 1) {
+    for (int place = 0; place < count; ++place) {
+      const CDspAsmComp& component = list.m_arrComps[place];
+      byInterval.set(
+          {boost::icl::interval<int>::closed(component.m_nFirstElem, component.m_nLastElem),
+           place});
+      byBody.emplace(component.m_nBodyID, place);
     }
-    dense.resize(static_cast<std::size_t>(count));
-    std::iota(dense.begin(), dense.end(), 1);
     std::mt19937 random(20260102);
     std::uniform_int_distribution<int> draw(0, count - 1);
     for (std::size_t place = 0; place < kDrawn; ++place) {
       const int number = draw(random);
       held[place] = kStride * number + number % 10;
       gaps[place] = kStride * number + 10 + number % 2;
+      bodies[place] = 7 * number;
       places[place] = static_cast<std::size_t>(number);
     }
   }
 
   Components list;
+  CDspAsmCompIndex index;
   ByInterval byInterval;
+  std::unordered_map<int, int> byBody;
   std::vector<int> dense;
   std::array<int, kDrawn> held{};
   std::array<int, kDrawn> gaps{};
+  std::array<int, kDrawn> bodies{};
   std::array<std::size_t, kDrawn> places{};
 };
 
 int ByList(const Elements& elements, int element) {
   int index = 0;
   return elements.list.GetVisPartIndex_1based(element, &index) == 0 ? 0 : index;
+}
+
+int ByIndex(const Elements& elements, int element) {
+  int index = 0;
+  return elements.index.GetVisPartIndex_1based(element, &index) == 0 ? 0 : index;
 }
 
 int ByLoop(const Elements& elements, int element) {
@@ -128,34 +148,51 @@ void CheckElements(int size) {
   for (std::size_t place = 0; place < kDrawn; ++place) {
     for (const int element : {elements.held[place], elements.gaps[place]}) {
       const int answer = ByList(elements, element);
-      RequireSame(answer == ByLoop(elements, element) && answer == ByIntervals(elements, element),
+      RequireSame(answer == ByLoop(elements, element) && answer == ByIntervals(elements, element) &&
+                      answer == ByIndex(elements, element),
                   "element " + std::to_string(element));
     }
+    const int body = elements.bodies[place];
+    const int answer = elements.list.GetIndexByBodyID(body);
+    RequireSame(answer == elements.index.GetIndexByBodyID(body) &&
+                    answer == elements.byBody.find(body)->second,
+                "body " + std::to_string(body));
   }
+}
+
+/// Registers what asks one question; `call(elements, i)` asks the i-th one.
+template <class Call>
+void AddQuestion(const std::string& operation, const char* variant, int size, Call call,
+                 bool isForEach = false) {
+  AddGrowing(
+      operation, variant, size, SceneOf<Elements>,
+      [call](const Elements* elements, std::size_t place) { Keep(call(*elements, place)); },
+      isForEach);
+}
+
+int LoadAnInt(const Elements& elements, std::size_t place) {
+  return elements.dense[elements.places[place]];
 }
 
 void RegisterElements() {
   const std::string scan = "element none holds, in the list";
+  const std::string byIndex = "element to component, by the index";
+  const std::string body = "body to component, by the index";
   for (const int size : kSizesOfElements) {
     if (size <= 1'000) {
       CheckElements(size);
     }
-    const auto addScan = [&](const char* variant, auto call) {
-      AddGrowing(scan, variant, size, SceneOf<Elements>, call, true);
-    };
-    addScan(kOurs, [](Elements* elements, std::size_t place) {
-      Keep(ByList(*elements, elements->gaps[place]));
-    });
-    addScan(kLimit, [](Elements* elements, std::size_t) { Keep(ReadALineOfEach(*elements)); });
-    addScan("loop", [](Elements* elements, std::size_t place) {
-      Keep(ByLoop(*elements, elements->gaps[place]));
-    });
-    AddGrowing(
-        scan, "interval_map", size, SceneOf<Elements>,
-        [](Elements* elements, std::size_t place) {
-          Keep(ByIntervals(*elements, elements->gaps[place]));
-        },
-        true);
+    // clang-format off
+    AddQuestion(scan, kOurs, size, [](const Elements& elements, std::size_t place) { return ByList(elements, elements.gaps[place]); }, true);
+    AddQuestion(scan, kLimit, size, [](const Elements& elements, std::size_t) { return ReadALineOfEach(elements); }, true);
+    AddQuestion(scan, "loop", size, [](const Elements& elements, std::size_t place) { return ByLoop(elements, elements.gaps[place]); }, true);
+    AddQuestion(byIndex, kOurs, size, [](const Elements& elements, std::size_t place) { return ByIndex(elements, elements.held[place]); });
+    AddQuestion(byIndex, kLimit, size, LoadAnInt);
+    AddQuestion(byIndex, "interval_map", size, [](const Elements& elements, std::size_t place) { return ByIntervals(elements, elements.held[place]); });
+    AddQuestion(body, kOurs, size, [](const Elements& elements, std::size_t place) { return elements.index.GetIndexByBodyID(elements.bodies[place]); });
+    AddQuestion(body, kLimit, size, LoadAnInt);
+    AddQuestion(body, "unordered_map", size, [](const Elements& elements, std::size_t place) { return elements.byBody.find(elements.bodies[place])->second; });
+    // clang-format on
   }
 }
 

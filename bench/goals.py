@@ -44,6 +44,8 @@ FAMILIES = {
     ],
     "mqDisplayBench": [
         *rows(["element none holds, in the list"], (1.3, LIMIT), bound_by_memory=True),
+        *rows(["element to component, by the index"], (0.5, PEERS), bound_by_memory=True),
+        *rows(["body to component, by the index"], (1.0, PEERS), bound_by_memory=True),
         *rows(["colours of a list, few", "colours of a list, all different"],
               (4.0, LIMIT), bound_by_memory=True),
         *rows(["sort by last element"], (1.3, LIMIT), bound_by_memory=True),

@@ -10,6 +10,7 @@
 #include <mqPostCommon/catalogue/unit_lists.h>
 #include <mqPostCommon/catalogue/units.h>
 #include <mqPostCommon/display/assembly_component.h>
+#include <mqPostCommon/display/assembly_index.h>
 #include <mqPostCommon/display/assembly_list.h>
 #include <mqPostCommon/display/shell_flip_data.h>
 #include <mqPostCommon/display/stl_facet.h>

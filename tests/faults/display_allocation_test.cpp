@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 #include <mqPostCommon/display/assembly_component.h>
+#include <mqPostCommon/display/assembly_index.h>
 #include <mqPostCommon/display/assembly_list.h>
 #include <mqPostCommon/display/stl_facet.h>
 #include <mqPostCommon/lists/pairs.h>
@@ -245,6 +246,48 @@ TEST_F(AllocationFailures, WhileBodiesAreFoundByTheNameOfTheirPart) {
   Try(subject, {{{"GetBodyListByPartName", kStrong, [](Finder& finder, Finder&) {
                     finder.list.GetBodyListByPartName(&finder.found, MQ_TEXT("Part"));
                   }}}});
+}
+
+/// An index that is asked, and the indices that it has found so far.
+struct IndexFinder {
+  Components list;
+  CDspAsmCompIndex index;
+  std::vector<int> found = {77};
+};
+
+TEST_F(AllocationFailures, InAnIndexOfComponents) {
+  const auto make = [](int count) {
+    const Components list = ListOf(count);
+    return IndexFinder{list, CDspAsmCompIndex(list)};
+  };
+  const auto describe = [](const IndexFinder& finder) {
+    int visible = 0;
+    std::string text = Show(finder.index.GetSize()) + " components, " +
+                       Show(finder.index.GetVisPartIndex_1based(35, &visible)) + ' ' +
+                       Show(visible) + " found";
+    for (const int index : finder.found) {
+      text += ' ' + Show(index);
+    }
+    return text;
+  };
+  using Asked = IndexFinder;
+  const Subject<Asked> subject = {"CDspAsmCompIndex", [make] { return make(3); },
+                                  [make] { return make(20); }, describe};
+  // clang-format off
+  Try(subject, {{
+      {"construction",          kStrong,     [](Asked&, Asked& other) { const CDspAsmCompIndex made(other.list); }},
+      {"construction, empty",   kStrong,     [](Asked&, Asked&) { const Components none; const CDspAsmCompIndex made(none); }},
+      {"made anew",             kStrong,     [](Asked& finder, Asked& other) { finder.index = CDspAsmCompIndex(other.list); }},
+      {"copy construction",     kNeverFails, [](Asked&, Asked& other) { const CDspAsmCompIndex copy(other.index); }},
+      {"copy assignment",       kNeverFails, [](Asked& finder, Asked& other) { finder.index = other.index; }},
+      {"GetBodyListByPartName", kStrong,     [](Asked& finder, Asked&) { finder.index.GetBodyListByPartName(&finder.found, finder.list.m_arrComps[1].m_strCompName); }},
+      {"questions",             kNeverFails, [](Asked& finder, Asked&) {
+         int index = 0;
+         Use(finder.index.GetSize(), finder.index.GetVisPartIndex_1based(15, &index), finder.index.GetActiveElemIndex(1, 1),
+             finder.index.GetIndexByBodyID(2), finder.index.IsComponentExistByName(finder.list.m_arrComps[0].m_strCompName));
+       }},
+  }});
+  // clang-format on
 }
 
 TEST_F(AllocationFailures, NoneInPairs) {
