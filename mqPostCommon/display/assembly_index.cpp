@@ -45,8 +45,7 @@ std::vector<int> FindShown(Components components) {
       shown.push_back(static_cast<int>(place));
     }
   }
-  std::ranges::stable_sort(shown, {},
-                           [&](int index) { return components[Place(index)].m_nFirstElem; });
+  std::ranges::sort(shown, {}, [&](int index) { return components[Place(index)].m_nFirstElem; });
   return shown;
 }
 
@@ -201,14 +200,16 @@ class NameGroups {
       FoldText(component.m_strCompName.View(), folded);
       groupOf.push_back(m_names.FindOrAdd(folded));
     }
-    m_members.resize(components.size());
-    std::iota(m_members.begin(), m_members.end(), 0);
-    std::ranges::stable_sort(m_members, {}, [&](int index) { return groupOf[Place(index)]; });
     m_starts.resize(Place(m_names.GetSize()) + 1);
     for (const int group : groupOf) {
       ++m_starts[Place(group) + 1];
     }
     std::partial_sum(m_starts.begin(), m_starts.end(), m_starts.begin());
+    m_members.resize(components.size());
+    std::vector<std::size_t> next = m_starts;
+    for (std::size_t place = 0; place < components.size(); ++place) {
+      m_members[next[Place(groupOf[place])]++] = static_cast<int>(place);
+    }
   }
 
   [[nodiscard]] std::span<const int> Find(const CString& name) const {
