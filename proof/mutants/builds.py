@@ -26,8 +26,8 @@ SUITES = {
     "mqFaultTests": "faults",
     "mqAllocationTests": "faults",
 }
-# The suites that a wing can break, the likeliest first. A mutant of platform/ meets the tests of
-# its own header before these.
+# The suites that a wing can break, the likeliest first. A mutant of a header meets the tests of
+# its own name before these.
 SUITES_OF = {
     "catalogue": ["mqCatalogueTests", "mqInterpositionTests", "mqParamsTests", "mqListsTests"],
     "params": ["mqParamsTests", "mqListsTests", "mqMaterialsTests", "mqFaultTests"],
@@ -37,7 +37,8 @@ SUITES_OF = {
     "platform": ["mqParamsTests", "mqDisplayTests", "mqMaterialsTests"],
 }
 STATIC_SUITE = "mqAllocationTests"  # linked with the objects of the library, run last
-HEADER_TESTS = {"case_folding": "wide_string"}  # tested by the test of another name
+# Headers that are tested by a test of another name.
+HEADER_TESTS = {"case_folding": "wide_string", "gfx_core": "color", "record": "record_primitives"}
 LIBRARY = "mqPostCommon/CMakeFiles/mqPostCommonObjects.dir"
 SLOW_TEST = 0.03  # seconds; slower tests are run last, and never with sanitizers
 # The compiler refuses a table, as it is meant to.

@@ -224,17 +224,15 @@ def stages(preset, path):
     """The steps in which a changed file is tried, the shortest first."""
     wing, stem = path.split("/")[1], Path(path).stem
     sanitized = preset.name == "asan"
-    found = []
-    if wing == "platform":
-        source = f"tests/platform/{HEADER_TESTS.get(stem, stem)}_test.cpp"
-        own = [target for target in preset.test_objects("mqPlatformTests", path)
-               if preset.commands[target][0] == source]
-        found.append(Stage(own, "mqPlatformTests", ["mqPlatformTests"], True))
+    suite = next(name for name, folder in SUITES.items() if folder == wing)
+    source = f"tests/{wing}/{HEADER_TESTS.get(stem, stem)}_test.cpp"
+    own = [target for target in preset.test_objects(suite, path)
+           if preset.commands[target][0] == source]
+    found = [Stage(own, suite, [suite], True)]
     if wing != "platform" or not sanitized:
         suites = SUITES_OF[wing][:1] if sanitized else SUITES_OF[wing]
         found.append(Stage(preset.library_objects(path), "", suites, False))
     if path.endswith(".h") and not sanitized:  # compiled into the tests as well
-        suite = next(name for name, folder in SUITES.items() if folder == wing)
         found.append(Stage(preset.test_objects(suite, path), suite, [suite], False))
     if not sanitized:
         targets = preset.library_objects(path) + preset.test_objects(STATIC_SUITE, path)
