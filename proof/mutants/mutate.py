@@ -62,7 +62,7 @@ FAULTLESS = {
     "lists": "mqPostCommon/lists/list.cpp",
     "materials": "mqPostCommon/materials/material.cpp",
     "display": "mqPostCommon/display/assembly_list.cpp",
-    "platform": "mqPostCommon/platform/lists.h",
+    "platform": "mqPostCommon/platform/gfx_core.h",
 }
 KILLED = ("test", "compiler", "time", "sanitizer")
 
