@@ -1,8 +1,8 @@
 """The library is loaded, asked early, and unloaded without a trace, on both platforms.
 
-Its objects have nothing to run at load or unload, and no symbol of it keeps it in memory. Programs
-load and unload it a thousand times, and ask it from a global object of another library. (Builds
-with clang refuse global constructors on their own.)
+Its objects have nothing to run at load or unload, no symbol of it keeps it in memory, and the
+loader adjusts no text of it. Programs load and unload it a thousand times, and ask it from a global
+object of another library. (Builds with clang refuse global constructors on their own.)
 """
 
 import re
@@ -12,6 +12,11 @@ from workshop import Finding, LIBRARIES, ROOT, cases_of, demand, demand_none, te
 TARGETS = ["mqUnloadingTests", "mqBeforeMainTests"]
 # Where a compiler puts pointers to what runs at load and unload.
 SECTIONS = re.compile(r"\.(?:init_array|fini_array|preinit_array|ctors|dtors)\b")
+
+# A relocation with the value of its symbol, if it has one, and what is added.
+RELOCATION = re.compile(r"\w+ +\w+ +R_X86_64_\w+ +(?:(\w{16}) \S+ \+ )?(\w+)$")
+# The exported tables, whose texts lie in themselves, and the names of types.
+NO_TEXT = re.compile(r"g_|_ZTS")
 
 
 def objects_with_constructors(folder, dump):
@@ -43,6 +48,30 @@ def check_symbols(binaries):
     return Finding("no symbol ties a library to the process", cases, "no unique one, no exit work")
 
 
+def pointers_into_constants(library):
+    """The symbols in the constant section whose addresses the loader writes somewhere; "" for a
+    place without a symbol, as that of a literal is."""
+    section = re.search(r"\.rodata +PROGBITS +(\w+) +\w+ +(\w+)", text("readelf", "-SW", library))
+    begin, size = (int(number, 16) for number in section.groups())
+    names = {int(line.split()[0], 16): line.split()[-1]
+             for line in text("nm", "--defined-only", library).splitlines()}
+    for line in text("readelf", "-rW", library).splitlines():
+        if found := RELOCATION.match(line):
+            target = sum(int(part, 16) for part in found.groups("0"))
+            if begin <= target < begin + size:
+                yield names.get(target, "")
+
+
+def check_texts(binaries):
+    """A text may stand in a table or in the code, but nothing holds a pointer to one."""
+    targets = list(pointers_into_constants(binaries / "libmqPostCommon.so"))
+    demand(len(targets) > 10, "the relocations of the library are not found")
+    demand_none([name or "a literal" for name in targets if not NO_TEXT.match(name)],
+                "texts whose addresses the loader has to adjust")
+    return Finding("no text of the library is adjusted when it is loaded", len(targets),
+                   "exported tables and type names alone")
+
+
 def check_programs(shop, platform, binaries):
     tests = {}
     for program in TARGETS:
@@ -55,5 +84,5 @@ def check_programs(shop, platform, binaries):
 def check(shop):
     dev = shop.build("dev", "mqPostCommon", *TARGETS)
     windows = shop.build("windows", "mqPostCommon", *TARGETS)
-    return [check_objects(), check_symbols(dev), check_programs(shop, "linux", dev),
+    return [check_objects(), check_symbols(dev), check_texts(dev), check_programs(shop, "linux", dev),
             check_programs(shop, "windows", windows)]
