@@ -128,6 +128,6 @@ int mqpLoadString(CString& text, UINT id) {
     mqp::host::missingIds.fetch_add(1, std::memory_order_relaxed);
     return 0;
   }
-  text = CString(*found);
+  text = *found;
   return 1;
 }

@@ -3,16 +3,17 @@
 #include <initializer_list>
 
 #include <mqPostCommon/catalogue/components.h>
+#include <mqPostCommon/catalogue/display_flag.h>
 #include <mqPostCommon/catalogue/table.h>
 
 namespace mqp {
+
+constinit std::atomic<std::int32_t> actualFrequencyDisplayFlag = 0;
+
 namespace {
 
 using Study = AnalysisType;
 using Result = ResultType;
-
-// Relaxed: the flag stands alone, and nobody orders other memory by it.
-constinit std::atomic<std::int32_t> actualFrequencyDisplayFlag = 0;
 
 // clang-format off
 
@@ -261,7 +262,7 @@ When MeshConditions(int meshKind, int meshFlags) noexcept {
 }  // namespace mqp
 
 int vekPostCommonGetActualFreqDispFlag() noexcept {
-  return mqp::actualFrequencyDisplayFlag.load(std::memory_order_relaxed);
+  return mqp::LoadDisplayFlag();
 }
 
 void vekPostCommonSetActualFreqDispFlag(int flag) noexcept {
@@ -282,8 +283,8 @@ int vekPostCommonGetComponentDataType(int analysisType, int resultType, int comp
                                       int* vectorMembers, int forceDirectional) noexcept {
   using namespace mqp;
   if (vectorMembers != nullptr) {
-    const Members members = kMemberIndex.At(analysisType, resultType, When::Always, component);
-    if (members != kNoMembers) {
+    const Members& members = kMemberIndex.At(analysisType, resultType, When::Always, component);
+    if (members.front() != kNoMembers.front()) {  // three or none
       std::ranges::copy(members, vectorMembers);
     }
   }

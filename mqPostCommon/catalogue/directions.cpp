@@ -12,10 +12,10 @@ enum class Direction : std::uint8_t { None, X, Y, Z, All, X2, Y2, Z2, All2 };
 using enum Direction;
 
 struct Pattern {
-  std::uint8_t x;
-  std::uint8_t y;
-  std::uint8_t z;
-  std::uint8_t marker;
+  float x;
+  float y;
+  float z;
+  float marker;
 };
 
 // clang-format off

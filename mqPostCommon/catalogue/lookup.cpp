@@ -1,3 +1,5 @@
+#include <utility>
+
 #include <mqPostCommon/catalogue/lookup.h>
 #include <mqPostCommon/catalogue/name_ids.h>
 #include <mqPostCommon/catalogue/texts.h>
@@ -102,6 +104,7 @@ constexpr auto kCandidateIndex = MakeIndex<Candidate{kNoName, 0}, kCandidates>()
 constexpr int kNotFound = -1;
 constexpr int kNoResultType = 9999;
 
+/// \param buffer whatever it holds goes; its room takes the name
 bool NameBeginsWith(NameId id, const CString& key, CString& buffer) {
   buffer.Empty();  // a host may leave it for an unknown id
   mqpLoadString(buffer, id);
@@ -117,11 +120,15 @@ int vekPostCommonGetComponentIndexByName(int analysisType, int resultType, int v
   if (name.IsEmpty()) {
     return kNotFound;
   }
-  const CString key = exactName != 0 ? name.Trim() : MakeKey(name);
-  CString buffer;
+  CString key;
+  if (exactName != 0) {
+    std::swap(key, name.Trim());
+  } else {
+    key = MakeKey(name);
+  }
   for (const Candidate& candidate :
        kCandidateIndex.Listed(analysisType, resultType, If(variant != 0, When::Alternate))) {
-    if (NameBeginsWith(candidate.id, key, buffer)) {
+    if (NameBeginsWith(candidate.id, key, name)) {
       return candidate.component;
     }
   }
@@ -131,10 +138,9 @@ int vekPostCommonGetComponentIndexByName(int analysisType, int resultType, int v
 int vekPostCommonGetResultTypeByComponentName(CString name) {
   using namespace mqp;
   const CString key = MakeKey(name);
-  CString buffer;
   for (const ResultRow& row : kResultCandidates) {
     for (int place = 0; place < row.names.count; ++place) {
-      if (NameBeginsWith(row.names.values[static_cast<std::size_t>(place)], key, buffer)) {
+      if (NameBeginsWith(row.names.values[static_cast<std::size_t>(place)], key, name)) {
         return Code(row.result);
       }
     }

@@ -1,4 +1,4 @@
-#include <mqPostCommon/catalogue/components.h>
+#include <mqPostCommon/catalogue/display_flag.h>
 #include <mqPostCommon/catalogue/name_ids.h>
 #include <mqPostCommon/catalogue/names.h>
 #include <mqPostCommon/catalogue/texts.h>
@@ -218,7 +218,7 @@ constexpr auto kResultNameIndex = [] {
 }();
 
 When ModeCondition() noexcept {
-  return If(vekPostCommonGetActualFreqDispFlag() != 0, When::RealModes);
+  return If(LoadDisplayFlag() != 0, When::RealModes);
 }
 
 When BeamCondition(int meshKind) noexcept {
@@ -226,9 +226,11 @@ When BeamCondition(int meshKind) noexcept {
 }
 
 /// The text before the first colon; all of it when there is none or it stands in front.
-CString CutAtColon(const CString& text) {
-  const int colon = text.Find(MQ_TEXT(':'));
-  return colon > 0 ? text.Left(colon) : text;
+CString CutAtColon(CString text) {
+  if (const int colon = text.Find(MQ_TEXT(':')); colon > 0) {
+    text.Delete(colon, text.GetLength());
+  }
+  return text;
 }
 
 }  // namespace

@@ -353,11 +353,12 @@ struct ComponentIndex {
   [[nodiscard]] constexpr ValueList ListOf(int analysisType, int resultType,
                                            When given) const noexcept {
     const Cell& cell = cells[CellOf(analysisType, resultType)];
-    return Holds(given, cell.condition) ? cell.special : cell.plain;
+    // The address is chosen, without a jump: nobody could guess whether the condition holds.
+    return *(Holds(given, cell.condition) ? &cell.special : &cell.plain);
   }
   /// The value of a component; a negative one counts as beyond the list.
-  [[nodiscard]] constexpr V At(int analysisType, int resultType, When given,
-                               int component) const noexcept {
+  [[nodiscard]] constexpr const V& At(int analysisType, int resultType, When given,
+                                      int component) const noexcept {
     const ValueList list = ListOf(analysisType, resultType, given);
     return values[list.first + std::min<std::size_t>(static_cast<unsigned>(component), list.count)];
   }

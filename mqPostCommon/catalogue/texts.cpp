@@ -1,13 +1,14 @@
+#include <cstddef>
+
 #include <mqPostCommon/catalogue/texts.h>
 
 CString mqp::MakeKey(const CString& text) {
-  constexpr int kKeyLength = 6;
-  CString key = text.Left(kKeyLength);
+  constexpr std::size_t kKeyLength = 6;
+  mqTextView key = text.View().substr(0, kKeyLength);
   for (const mqChar end : {MQ_TEXT(':'), MQ_TEXT(' ')}) {
-    const int position = key.Find(end);
-    if (position > 0) {
-      key = key.Left(position);
+    if (const std::size_t position = key.find(end); position != 0) {
+      key = key.substr(0, position);
     }
   }
-  return key;
+  return CString(key);
 }

@@ -1,4 +1,4 @@
-#include <mqPostCommon/catalogue/components.h>
+#include <mqPostCommon/catalogue/display_flag.h>
 #include <mqPostCommon/catalogue/table.h>
 #include <mqPostCommon/catalogue/units.h>
 
@@ -276,7 +276,7 @@ int vekPostCommonGetUnitType(int analysisType, int resultType, int component, in
                              int optionFlag) noexcept {
   using namespace mqp;
   const When given = If(option == 2 && optionFlag != 0, When::Spectral) |
-                     If(vekPostCommonGetActualFreqDispFlag() == 1, When::RealModes);
+                     If(LoadDisplayFlag() == 1, When::RealModes);
   const Unit unit = kQuantityIndex.At(analysisType, resultType, given, component);
   return unit == kNoUnit ? Code(UnitType::None) : unit;
 }

@@ -35,6 +35,12 @@ class CString {
     return *this;
   }
 
+  /// Takes the room that is there when it is enough, so that nothing is allocated.
+  CString& operator=(mqTextView text) {
+    m_text = text;
+    return *this;
+  }
+
   [[nodiscard]] int GetLength() const noexcept { return static_cast<int>(m_text.size()); }
   [[nodiscard]] bool IsEmpty() const noexcept { return m_text.empty(); }
   void Empty() noexcept { m_text.clear(); }

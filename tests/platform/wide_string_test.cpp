@@ -117,6 +117,25 @@ TEST(WideString, AViewIsCopied) {
   EXPECT_EQ(text, CString(MQ_TEXT("abc")));
 }
 
+TEST(WideString, AViewTakesThePlaceOfATextAndTheRoomThatItHas) {
+  CString text = kLongText;
+  const mqChar* const room = text.GetString();
+  text = ZeroInside().View();
+  EXPECT_EQ(text.GetLength(), 3);
+  EXPECT_EQ(text, ZeroInside());
+  text = mqTextView(MQ_TEXT("abcdefghijklmno"));
+  EXPECT_EQ(text, MQ_TEXT("abcdefghijklmno"));
+  EXPECT_EQ(text.GetString(), room);
+  text = mqTextView();
+  EXPECT_EQ(text, MQ_TEXT(""));
+}
+
+TEST(WideString, AViewOfItsOwnPartTakesThePlaceOfAText) {
+  CString text = MQ_TEXT("abcdefghijklmno");
+  text = text.View().substr(4, 9);
+  EXPECT_EQ(text, MQ_TEXT("efghijklm"));
+}
+
 TEST(WideString, ACopyStandsByItselfAndAMovedTextArrives) {
   const CString source(kLongText);
   CString copy = source;
