@@ -332,6 +332,35 @@ TEST(TemperatureCurve, TemperaturesOutOfOrderAreTakenAsTheyStand) {
   });
 }
 
+/// Point i of a curve of any length: temperature 10 i, value i.
+CurveState Rising(int points) {
+  CurveState state = {points, {}, {}};
+  for (int point = 0; point < points; ++point) {
+    state.temperatures.push_back(10.0 * point);
+    state.values.push_back(point);
+  }
+  return state;
+}
+
+TEST(TemperatureCurve, EachPointOfALongCurveIsFoundInAndOutOfOrder) {
+  for (const int points : {8, 9, 10, 15, 16, 17, 18, 25, 40}) {
+    for (int point = 1; point < points - 1; ++point) {
+      const double x = 10.0 * point;
+      const CurveState rising = Rising(points);
+      ExpectValues({{rising, x, 1.0 * point}, {rising, x - 5.0, point - 0.5}});
+      CurveState gap = rising;
+      gap.temperatures[static_cast<std::size_t>(point)] = kNaN;
+      ExpectValues({{gap, x, kNaN}, {gap, x - 5.0, kNaN}, {gap, x - 10.0, point - 1.0}});
+      // A temperature out of order, at each place behind the one where it belongs.
+      for (int stray = point; stray < points - 1; ++stray) {
+        CurveState state = rising;
+        state.temperatures[static_cast<std::size_t>(stray)] = x - 5.0;
+        ExpectValues({{state, x - 5.0, 1.0 * stray}});
+      }
+    }
+  }
+}
+
 TEST(TemperatureCurve, EqualValuesNeedNoLine) {
   ExpectValues({
       {{2, {0.0, 10.0}, {7.0, 7.0}},                              5.0,    7.0},
