@@ -1006,6 +1006,38 @@ void ExpectSorted(const Integers& lastElems, int ascending) {
   }
 }
 
+// More colours than hashes of 32 bits can tell apart.
+TEST(AssemblyList, EachOfManyColoursIsInTheColourList) {
+  constexpr int kComponents = 100'000;
+  std::mt19937 random(20260105);
+  std::uniform_real_distribution<float> part(0.0F, 1.0F);
+  const auto color = [&] { return COGLColor(part(random), part(random), part(random), 1.0F); };
+  CDspAsmCompList list;
+  list.m_arrComps.SetSize(kComponents);
+  for (int index = 0; index < kComponents; ++index) {
+    list.m_arrComps[index].m_Color = color();
+    list.m_arrComps[index].m_BottomColor = color();
+  }
+  Colors colors;
+  Colors bottoms;
+  EXPECT_EQ(list.MakeColorList(&colors, &bottoms), 1);
+  EXPECT_EQ(colors.GetSize(), 199'999);
+  EXPECT_EQ(bottoms.GetSize(), 100'000);
+}
+
+TEST(AssemblyList, ColoursThatDifferByTheSmallestNumberAreTwo) {
+  CDspAsmCompList list;
+  const COGLColor bottom(0.5F, 0.5F, 0.5F, 1.0F);
+  list.Add(CDspAsmComp(1, 0, 9, COGLColor(0.0F, 0.0F, 0.0F, 1.0F), bottom, 0));
+  list.Add(CDspAsmComp(2, 0, 9, COGLColor(1e-45F, 0.0F, 0.0F, 1.0F), bottom, 0));
+  list.Add(CDspAsmComp(3, 0, 9, COGLColor(-0.0F, 0.0F, -0.0F, 1.0F), bottom, 0));
+  Colors colors;
+  Colors bottoms;
+  EXPECT_EQ(list.MakeColorList(&colors, &bottoms), 1);
+  EXPECT_EQ(colors.GetSize(), 3);  // with the bottom colour of the second
+  EXPECT_EQ(bottoms.GetSize(), 2);
+}
+
 TEST(AssemblyList, SortingGoesByTheLastElementInBothDirections) {
   CDspAsmCompList list = MakeList({{.compId = 1, .first = 9, .last = 5},
                                    {.compId = 2, .first = 1, .last = 20},
