@@ -1,7 +1,7 @@
 /// \file
 /// The records written and read by libraries of serialisation. Each peer writes the record into a
-/// buffer that it keeps and reads it from there into an object that it keeps, whose list of variables
-/// is emptied before.
+/// buffer that it keeps and reads it from there into an object that it keeps, whose list of
+/// variables is emptied before.
 #pragma once
 
 #include <memory>

@@ -59,7 +59,7 @@ std::byte* LoadLittleEndian(std::byte* bytes, std::span<Value> values) noexcept 
 }
 
 /// The most bytes of the units of a text, and of the numbers of a field.
-inline constexpr std::size_t kMaximumTextSize = 2 * kMaximumStringRecordLength;
+inline constexpr std::size_t kMaximumTextSize = std::size_t{2} * kMaximumStringRecordLength;
 inline constexpr std::size_t kMaximumFieldSize = 8192;
 
 /// A list of records is read up to this length. No document holds more; a count beyond it comes
@@ -240,7 +240,7 @@ class RecordReader {
       return;
     }
     const int count = std::clamp(LoadCount(), 0, kMaximumStringRecordLength);
-    std::byte* const units = m_bytes - 2 * count;
+    std::byte* const units = m_bytes - std::ptrdiff_t{2} * count;
     std::fill(units, m_bytes, std::byte{0});
     ReadRun(units);
     if (count > 0) {
