@@ -323,7 +323,7 @@ class RandomList {
     CDspAsmCompList list;
     for (int left = Between(0, 1) == 0 ? Between(0, 8) : Between(0, 300); left > 0; --left) {
       const int first = Number();
-      const bool isNarrow = Between(0, 3) != 0 && first < INT_MAX - 10;
+      const bool isNarrow = Between(0, 3) != 0 && first > INT_MIN + 2 && first < INT_MAX - 10;
       list.Add(test::Make({.first = first,
                            .last = isNarrow ? first + Between(-2, 10) : Number(),
                            .name = OneOf(kNames),
