@@ -4,9 +4,10 @@
 
 #include <algorithm>
 #include <array>
-#include <barrier>
+#include <atomic>
 #include <cstddef>
 #include <functional>
+#include <latch>
 #include <random>
 #include <string>
 #include <string_view>
@@ -23,17 +24,14 @@ namespace {
 
 constexpr int kThreads = 4;
 
-/// Runs `work(thread, step)` on four threads that go from step to step together. A sanitizer
-/// remembers for a short while who touched what: within a step they all do.
-void OnFourThreads(int steps, const std::function<void(int thread, int step)>& work) {
-  std::barrier together(kThreads);
+/// Runs `work` with the numbers 0 to 3 on threads that start together.
+void OnFourThreads(const std::function<void(int)>& work) {
+  std::latch start(kThreads);
   std::vector<std::thread> threads;
-  for (int thread = 0; thread < kThreads; ++thread) {
-    threads.emplace_back([&, thread] {
-      for (int step = 0; step < steps; ++step) {
-        together.arrive_and_wait();
-        work(thread, step);
-      }
+  for (int number = 0; number < kThreads; ++number) {
+    threads.emplace_back([&, number] {
+      start.arrive_and_wait();
+      work(number);
     });
   }
   for (std::thread& thread : threads) {
@@ -97,14 +95,14 @@ constexpr auto kQuestions = std::to_array<Question>({
 // clang-format on
 
 /// Mostly codes that mean something, now and then any integer.
-std::vector<Codes> RandomCodes(int count) {
+std::vector<Codes> RandomCodes(std::size_t count) {
   std::mt19937 generator(20240229);
   const auto draw = [&generator](int last) {
     const auto number = generator();
     return number % 16 == 0 ? static_cast<int>(generator())
                             : static_cast<int>(number / 16 % static_cast<unsigned>(last + 1));
   };
-  std::vector<Codes> codes(static_cast<std::size_t>(count));
+  std::vector<Codes> codes(count);
   for (Codes& c : codes) {
     // clang-format off
     c = {draw(12), draw(75), draw(16), draw(4), draw(2), draw(2), draw(4), draw(2), draw(8)};
@@ -124,16 +122,12 @@ std::vector<Answer> AnswersTo(const std::vector<Codes>& codes) {
   return answers;
 }
 
-constexpr int kCodeSets = 10000;
-constexpr int kSteps = 500;
-constexpr int kCodeSetsOfAStep = kCodeSets / kSteps;
-
-/// Asks everything of one step, each thread from another step on; returns a wrong answer in words.
-std::string WrongAnswer(int thread, int step, const std::vector<Codes>& codes,
-                        const std::vector<std::vector<Answer>>& allowed) {
-  const int first = (step + thread * kSteps / kThreads) % kSteps * kCodeSetsOfAStep;
-  for (int number = first; number < first + kCodeSetsOfAStep; ++number) {
-    const auto place = static_cast<std::size_t>(number);
+/// Each thread asks everything, starting at another place; returns the first wrong answer in words.
+std::string FirstWrongAnswer(int thread, const std::vector<Codes>& codes,
+                             const std::vector<std::vector<Answer>>& allowed) {
+  const std::size_t first = static_cast<std::size_t>(thread) * codes.size() / kThreads;
+  for (std::size_t step = 0; step < codes.size(); ++step) {
+    const std::size_t place = (first + step) % codes.size();
     for (std::size_t question = 0; question < kQuestions.size(); ++question) {
       const Answer answer = kQuestions[question].ask(codes[place]);
       const std::size_t row = place * kQuestions.size() + question;
@@ -146,38 +140,20 @@ std::string WrongAnswer(int thread, int step, const std::vector<Codes>& codes,
   return {};
 }
 
-/// What went wrong on each thread; empty when nothing did.
-using Faults = std::array<std::string, kThreads>;
-
-void Note(Faults& faults, int thread, const std::string& fault) {
-  if (!fault.empty()) {
-    faults[static_cast<std::size_t>(thread)] = fault;
-  }
-}
+constexpr std::size_t kCodeSets = 10000;
 
 TEST(FourThreads, GetTheAnswersOfOneFromEveryFunctionOfTheCatalogue) {
   const std::vector<Codes> codes = RandomCodes(kCodeSets);
   const std::vector<std::vector<Answer>> allowed{AnswersTo(codes)};
-  Faults faults;
-  OnFourThreads(kSteps, [&](int thread, int step) {
-    Note(faults, thread, WrongAnswer(thread, step, codes, allowed));
+  std::array<std::string, kThreads> wrong;
+  OnFourThreads([&](int thread) {
+    wrong[static_cast<std::size_t>(thread)] = FirstWrongAnswer(thread, codes, allowed);
   });
-  EXPECT_EQ(faults, Faults{});
-  RecordProperty("cases", kThreads * kCodeSets * static_cast<int>(kQuestions.size()));
+  EXPECT_EQ(wrong, (std::array<std::string, kThreads>{}));
+  RecordProperty("cases", static_cast<int>(kThreads * kCodeSets * kQuestions.size()));
 }
 
-/// Sets the flag and reads it back; nobody else sets it.
-std::string FlipFlag() {
-  for (int value = 0; value < 20; ++value) {
-    vekPostCommonSetActualFreqDispFlag(value % 2);
-    if (vekPostCommonGetActualFreqDispFlag() != value % 2) {
-      return "the flag is not what was set";
-    }
-  }
-  return {};
-}
-
-TEST(FourThreads, GetOneOfTheTwoAnswersWhileOneOfThemChangesTheFlag) {
+TEST(FourThreads, GetOneOfTheTwoAnswersWhileTheFlagChangesUnderThem) {
   const std::vector<Codes> codes = RandomCodes(kCodeSets);
   std::vector<std::vector<Answer>> allowed;
   for (const int flag : {0, 1}) {
@@ -185,13 +161,25 @@ TEST(FourThreads, GetOneOfTheTwoAnswersWhileOneOfThemChangesTheFlag) {
     allowed.push_back(AnswersTo(codes));
   }
   ASSERT_NE(allowed[0], allowed[1]) << "some answers depend on the flag";
-  Faults faults;
-  OnFourThreads(kSteps, [&](int thread, int step) {
-    Note(faults, thread, thread == 0 ? FlipFlag() : WrongAnswer(thread, step, codes, allowed));
+  std::array<std::string, kThreads> wrong;
+  std::atomic<int> asking{kThreads - 1};
+  std::atomic<int> oddFlags{0};
+  OnFourThreads([&](int thread) {
+    if (thread == 0) {
+      for (int value = 0; asking > 0; value = 1 - value) {
+        vekPostCommonSetActualFreqDispFlag(value);
+        const int flag = vekPostCommonGetActualFreqDispFlag();
+        oddFlags += flag != value ? 1 : 0;
+      }
+      return;
+    }
+    wrong[static_cast<std::size_t>(thread)] = FirstWrongAnswer(thread, codes, allowed);
+    --asking;
   });
   vekPostCommonSetActualFreqDispFlag(0);
-  EXPECT_EQ(faults, Faults{});
-  RecordProperty("cases", (kThreads - 1) * kCodeSets * static_cast<int>(kQuestions.size()));
+  EXPECT_EQ(wrong, (std::array<std::string, kThreads>{}));
+  EXPECT_EQ(oddFlags, 0) << "one thread alone sets the flag";
+  RecordProperty("cases", static_cast<int>((kThreads - 1) * kCodeSets * kQuestions.size()));
 }
 
 // ---- objects ------------------------------------------------------------------------------
@@ -302,18 +290,20 @@ TEST(FourThreads, EachWorkOnObjectsOfTheirOwnAsOneDoes) {
       ASSERT_FALSE(expected.back().empty()) << work.name;
     }
   }
-  Faults faults;
-  OnFourThreads(kRounds, [&](int thread, int round) {
-    const int seed = (round + thread) % kSeeds + 1;
-    for (std::size_t place = 0; place < kWorks.size(); ++place) {
-      const std::size_t row = static_cast<std::size_t>(seed - 1) * kWorks.size() + place;
-      if (kWorks[place].run(seed) != expected[row]) {
-        Note(faults, thread, std::string(kWorks[place].name));
+  std::array<std::string, kThreads> wrong;
+  OnFourThreads([&](int thread) {
+    for (int round = 0; round < kRounds; ++round) {
+      const int seed = (round + thread) % kSeeds + 1;
+      for (std::size_t place = 0; place < kWorks.size(); ++place) {
+        const std::size_t row = static_cast<std::size_t>(seed - 1) * kWorks.size() + place;
+        if (kWorks[place].run(seed) != expected[row]) {
+          wrong[static_cast<std::size_t>(thread)] = kWorks[place].name;
+        }
       }
     }
   });
-  EXPECT_EQ(faults, Faults{});
-  RecordProperty("cases", kThreads * kRounds * static_cast<int>(kWorks.size()));
+  EXPECT_EQ(wrong, (std::array<std::string, kThreads>{}));
+  RecordProperty("cases", static_cast<int>(kThreads * kRounds * kWorks.size()));
 }
 
 }  // namespace
