@@ -17,20 +17,6 @@ namespace {
 
 using Integers = std::vector<int>;
 
-struct VisibleRow {
-  int elem;
-  int result;
-  int index;  ///< 999: as it was
-};
-
-void ExpectVisible(const CDspAsmCompIndex& index, const std::vector<VisibleRow>& rows) {
-  for (const VisibleRow& row : rows) {
-    int got = 999;
-    EXPECT_EQ(index.GetVisPartIndex_1based(row.elem, &got), row.result) << "element " << row.elem;
-    EXPECT_EQ(got, row.index) << "element " << row.elem;
-  }
-}
-
 Integers BodiesOf(const CDspAsmCompIndex& index, const CString& name) {
   Integers found = {77};
   index.GetBodyListByPartName(&found, name);

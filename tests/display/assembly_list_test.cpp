@@ -397,20 +397,6 @@ TEST(AssemblyList, AComponentThatCountsIsMissingWithoutItsName) {
   EXPECT_EQ(list.HasPostCompMissing(list), 0);
 }
 
-struct VisibleRow {
-  int elem;
-  int result;
-  int index;  ///< 999: untouched
-};
-
-void ExpectVisible(const CDspAsmCompList& list, const std::vector<VisibleRow>& rows) {
-  for (const VisibleRow& row : rows) {
-    int index = 999;
-    EXPECT_EQ(list.GetVisPartIndex_1based(row.elem, &index), row.result) << "element " << row.elem;
-    EXPECT_EQ(index, row.index) << "element " << row.elem;
-  }
-}
-
 TEST(AssemblyList, TheVisibleIndexOfAnElementIsThatOfItsComponent) {
   const COGLColor color;
   CDspAsmCompList list;

@@ -272,4 +272,20 @@ std::vector<Value> Column(const CDspAsmCompList& list, Value AsmCompMembers::* m
   return values;
 }
 
+/// What a list, or an index of one, says of an element.
+struct VisibleRow {
+  int elem;
+  int result;
+  int index;  ///< 999: as it was
+};
+
+template <class Asked>
+void ExpectVisible(const Asked& asked, const std::vector<VisibleRow>& rows) {
+  for (const VisibleRow& row : rows) {
+    int index = 999;
+    EXPECT_EQ(asked.GetVisPartIndex_1based(row.elem, &index), row.result) << "element " << row.elem;
+    EXPECT_EQ(index, row.index) << "element " << row.elem;
+  }
+}
+
 }  // namespace mqp::test

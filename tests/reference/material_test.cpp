@@ -24,7 +24,7 @@ bool IsSame(double one, double other) {
 /// Ascending as a host fills it, with values that repeat, or any numbers at all.
 Curve AnyCurve(Random& random) {
   Curve curve;
-  const int held = random.Between(0, 6);
+  const int held = random.Between(0, random.Once(4) ? 40 : 6);
   const bool isOrdered = !random.Once(3);
   for (int index = 0; index < held; ++index) {
     curve.x.push_back(isOrdered ? random.Between(-40, 40) / 8.0 : random.Double());
