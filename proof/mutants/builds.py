@@ -23,6 +23,7 @@ SUITES = {
     "mqListsTests": "lists",
     "mqMaterialsTests": "materials",
     "mqDisplayTests": "display",
+    "mqRecordPrimitivesTests": "params",
     "mqFaultTests": "faults",
     "mqAllocationTests": "faults",
 }
@@ -36,9 +37,10 @@ SUITES_OF = {
     "display": ["mqDisplayTests"],
     "platform": ["mqParamsTests", "mqDisplayTests", "mqMaterialsTests"],
 }
-STATIC_SUITE = "mqAllocationTests"  # linked with the objects of the library, run last
+# Linked with the objects of the library, run last.
+STATIC_SUITES = ["mqRecordPrimitivesTests", "mqAllocationTests"]
 # Headers that are tested by a test of another name.
-HEADER_TESTS = {"case_folding": "wide_string", "gfx_core": "color", "record": "record_primitives"}
+HEADER_TESTS = {"case_folding": "wide_string", "gfx_core": "color"}
 LIBRARY = "mqPostCommon/CMakeFiles/mqPostCommonObjects.dir"
 SLOW_TEST = 0.03  # seconds; slower tests are run last, and never with sanitizers
 # The compiler refuses a table, as it is meant to.
@@ -214,13 +216,13 @@ class Preset:
     def link_tests(self, suite, changed, worker, alone):
         """Links the tests of a suite, or those of the changed objects alone."""
         others = list(changed) if alone else self.objects(self.tests(suite))
-        if suite == STATIC_SUITE:
+        if suite in STATIC_SUITES:
             others += self.objects(LIBRARY)
         program = worker / self.name / suite
         bin_folder = self.folder / "bin"
         libraries = [f"{bin_folder}/lib{name}.so" for name in
                      ("mqPostCommon", "mqCommFuncs", "GfxCore")]
-        if suite in ("mqPlatformTests", STATIC_SUITE):
+        if suite in ["mqPlatformTests", *STATIC_SUITES]:
             libraries.pop(0)
         extra = [str(path) for path in self.folder.glob("host/storage/libmqStorage.a")]
         self._link(program, changed, others,

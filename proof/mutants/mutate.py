@@ -41,7 +41,7 @@ from pathlib import Path
 
 sys.dont_write_bytecode = True  # nothing but the results is written
 import operators
-from builds import HEADER_TESTS, REFUSED, STATIC_SUITE, SUITES, SUITES_OF, CompileError, Preset
+from builds import HEADER_TESTS, REFUSED, STATIC_SUITES, SUITES, SUITES_OF, CompileError, Preset
 from together import MOST, Together
 
 HERE = Path(__file__).resolve().parent
@@ -234,9 +234,10 @@ def stages(preset, path):
         found.append(Stage(preset.library_objects(path), "", suites, False))
     if path.endswith(".h") and not sanitized:  # compiled into the tests as well
         found.append(Stage(preset.test_objects(suite, path), suite, [suite], False))
-    if not sanitized:
-        targets = preset.library_objects(path) + preset.test_objects(STATIC_SUITE, path)
-        found.append(Stage(targets, STATIC_SUITE, [STATIC_SUITE], False))
+    for suite in STATIC_SUITES if not sanitized else []:
+        if SUITES[suite] in (wing, "faults"):
+            targets = preset.library_objects(path) + preset.test_objects(suite, path)
+            found.append(Stage(targets, suite, [suite], False))
     return [stage for stage in found if stage.targets]
 
 
