@@ -55,6 +55,17 @@ TEST(Material, AResetRecordKeepsItsCurvesAlone) {
   EXPECT_EQ(Differences(material, expected), "");
 }
 
+TEST(Material, AResetRecordKeepsEveryByteOfTheCountsOfItsCurves) {
+  for (const Strength& strength : kStrengths) {
+    for (const int points : {1, 0x100, 0x10000, 0x1000000, INT_MIN}) {
+      CmqpMaterialData material;
+      (material.*strength.curve).m_nPoints = points;
+      material.ConstructorInit();
+      EXPECT_EQ((material.*strength.curve).m_nPoints, points) << strength.name;
+    }
+  }
+}
+
 TEST(Material, ACopyHasEveryMemberAndThePointsThatCount) {
   CmqpMaterialData source;
   CmqpMaterialData unchanged;
