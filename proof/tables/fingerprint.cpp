@@ -599,6 +599,18 @@ void AskAboutSameness(Answers& answers, const CmqpMaterialData& material,
   }
 }
 
+void AskAboutReset(Answers& answers, CmqpMaterialData& material, const StrengthMembers& strength) {
+  (material.*strength.curve).m_nPoints = 0x01000002;  // the highest byte has its part in it
+  material.ConstructorInit();
+  AskMaterial(answers, material);
+  for (const StrengthMembers& other : kStrengthMembers) {
+    const CmqTemperatureCurve& curve = material.*other.curve;
+    answers.Add(curve.m_nPoints);
+    answers.Add(curve.m_vecX.size());
+    answers.Add(curve.m_vecY.size());
+  }
+}
+
 void AskAboutStrength(Answers& answers, const StrengthMembers& strength, int criterion,
                       int option) {
   CmqpMaterialData material;
@@ -620,14 +632,7 @@ void AskAboutStrength(Answers& answers, const StrengthMembers& strength, int cri
   for (const StrengthMembers& other : kStrengthMembers) {
     AskAboutSameness(answers, material, other);
   }
-  material.ConstructorInit();
-  AskMaterial(answers, material);
-  for (const StrengthMembers& other : kStrengthMembers) {
-    const CmqTemperatureCurve& curve = material.*other.curve;
-    answers.Add(curve.m_nPoints);
-    answers.Add(curve.m_vecX.size());
-    answers.Add(curve.m_vecY.size());
-  }
+  AskAboutReset(answers, material, strength);
 }
 
 void WalkMaterials(Walk& walk) {
