@@ -101,9 +101,12 @@ FIRST_TRIES = {
     'text "a component index.*': "mqDisplayTests/AssemblyList.AnIndexOutsideIsCalledOne",
     'kOfferedNames|text ""Variable.*|text "diu.*':
         "mqParamsTests/EquationPlot.*:EquationEditorList.*",
-    'kBeamStressNames|text "[A-Z ].*|text "."': """
+    'text "[A-Z ].*|text "."': """
+        mqParamsTests/*.TheListOfFieldsTellsTheLayout
         mqParamsTests/GraphNames.*:GraphYTitle.*:GraphPlotName.*
-        mqParamsTests/EquationPlot.*:EquationEditorList.*
+        mqParamsTests/EquationPlot.*:EquationEditorList.*""",
+    "kBeamStressNames": """
+        mqParamsTests/GraphNames.*:GraphYTitle.*:GraphPlotName.*
         mqInterpositionTests/*""",
     "text .*": "mqParamsTests/*.TheListOfFieldsTellsTheLayout",
 }
