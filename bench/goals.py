@@ -56,4 +56,13 @@ FAMILIES = {
               (4.0, LIMIT), bound_by_memory=True),
         *rows(["units of element stresses"], (1.25, LIMIT), bound_by_memory=True),
     ],
+    "mqDocumentBench": [
+        *rows(["graph record, written to a stream of libgsf",
+               "graph record, read from a stream of libgsf"]),
+    ],
+    # Built by `cmake --preset windows -DMQ_BUILD_BENCH=ON`.
+    "mqDocumentBench.exe": [
+        *rows(["graph record, written to a stream of structured storage",
+               "graph record, read from a stream of structured storage"], (0.2, "field by field")),
+    ],
 }
