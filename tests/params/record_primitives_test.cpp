@@ -13,9 +13,9 @@ namespace {
 
 /// A record of more numbers without a text between them than any that is stored today.
 struct ManyNumbers {
-  int before[300];
-  double values[600];
-  int behind[300];
+  int before[150];
+  double values[300];
+  int behind[150];
 };
 
 constexpr auto kVisitNumbers = [](auto& record, auto& visitor) {
@@ -26,11 +26,11 @@ constexpr auto kVisitNumbers = [](auto& record, auto& visitor) {
 
 ManyNumbers NumbersFrom(int first) {
   ManyNumbers numbers{};
-  for (int place = 0; place < 300; ++place) {
+  for (int place = 0; place < 150; ++place) {
     numbers.before[place] = first + place;
     numbers.behind[place] = -first - place;
   }
-  for (int place = 0; place < 600; ++place) {
+  for (int place = 0; place < 300; ++place) {
     numbers.values[place] = first + 0.5 * place;
   }
   return numbers;
@@ -54,7 +54,7 @@ TEST(RecordPrimitives, ManyNumbersInARowAreWritten) {
   const ManyNumbers numbers = NumbersFrom(1000);
   host::MemoryStream stream;
   EXPECT_EQ(WriteRecord(&stream, numbers, kVisitNumbers), 1);
-  EXPECT_EQ(stream.Bytes().size(), 7200U);
+  EXPECT_EQ(stream.Bytes().size(), 3600U);
   EXPECT_EQ(ByteDifference(stream.Bytes(), BytesOf(numbers)), "");
 }
 
@@ -72,6 +72,26 @@ TEST(RecordPrimitives, ManyNumbersInARowAreReadAsFarAsTheStreamHasThem) {
   }
 }
 
+struct ManyTexts {
+  CString texts[20];
+};
+
+TEST(RecordPrimitives, MoreTextsThanABufferHoldsAreWritten) {
+  ManyTexts record;
+  RecordBytes expected;
+  for (int place = 0; place < 20; ++place) {
+    record.texts[place] = CString(static_cast<mqChar>('a' + place), 1024);
+    expected.Text(record.texts[place].View());
+  }
+  host::MemoryStream stream;
+  const auto visit = [](auto& object, auto& visitor) {
+    visitor.Strings(1, "texts", ValuesOf(object.texts));
+  };
+  EXPECT_EQ(WriteRecord(&stream, record, visit), 1);
+  EXPECT_EQ(stream.Bytes().size(), 20U * 2052U);
+  EXPECT_EQ(ByteDifference(stream.Bytes(), expected.Get()), "");
+}
+
 /// Every kind of field, each since a version of its own.
 struct GatedRecord {
   int integer = -1;
@@ -79,21 +99,16 @@ struct GatedRecord {
   CString text = MQ_TEXT("old");
   OwnedList<CmqEquationVariable> children;
   int last = -1;
-
-  template <class Visitor>
-  void VisitFields(Visitor& visitor) {
-    visitor.Integers(10, "integer", ValuesOf(integer));
-    visitor.Doubles(20, "number", ValuesOf(number));
-    visitor.Strings(30, "text", ValuesOf(text));
-    visitor.Records(40, "children", children, [](auto& child, auto& inner) {
-      inner.Integers(40, "component", ValuesOf(child.m_nComponent));
-    });
-    visitor.Integers(50, "last", ValuesOf(last));
-  }
 };
 
-constexpr auto kVisitGated = [](GatedRecord& record, auto& visitor) {
-  record.VisitFields(visitor);
+constexpr auto kVisitGated = [](auto& record, auto& visitor) {
+  visitor.Integers(10, "integer", ValuesOf(record.integer));
+  visitor.Doubles(20, "number", ValuesOf(record.number));
+  visitor.Strings(30, "text", ValuesOf(record.text));
+  visitor.Records(40, "children", record.children, [](auto& child, auto& inner) {
+    inner.Integers(40, "component", ValuesOf(child.m_nComponent));
+  });
+  visitor.Integers(50, "last", ValuesOf(record.last));
 };
 
 TEST(RecordPrimitives, AFieldIsReadFromTheVersionOnThatHasIt) {
@@ -139,6 +154,18 @@ TEST(RecordPrimitives, AFieldIsReadFromTheVersionOnThatHasIt) {
     EXPECT_EQ(read.last, row.last);
     EXPECT_EQ(stream.Position(), row.bytes.size());
   }
+}
+
+TEST(RecordPrimitives, MoreRecordsOfAListThanABufferHoldsAreWritten) {
+  GatedRecord record;
+  RecordBytes expected = RecordBytes().Integer(-1).Double(-1.0).Text(MQ_TEXT("old")).Integer(5000);
+  for (int place = 0; place < 5000; ++place) {
+    record.children.Append(std::make_unique<CmqEquationVariable>()).m_nComponent = place;
+    expected.Integer(place);
+  }
+  host::MemoryStream stream;
+  EXPECT_EQ(WriteRecord(&stream, record, kVisitGated), 1);
+  EXPECT_EQ(ByteDifference(stream.Bytes(), expected.Integer(-1).Get()), "");
 }
 
 }  // namespace

@@ -21,6 +21,7 @@
 #include <memory>
 #include <span>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -32,57 +33,66 @@
 
 namespace mqp {
 
-/// Turns each of so many values round where the machine's byte order is not that of a stream.
-template <std::size_t Size>
-void ReverseOnBigEndian(std::byte* bytes, std::size_t count) noexcept {
-  if constexpr (std::endian::native == std::endian::big) {
-    for (; count > 0; --count, bytes += Size) {
-      std::reverse(bytes, bytes + Size);
-    }
-  }
-}
+static_assert(std::endian::native == std::endian::little,
+              "numbers lie in a stream as they do in memory");
 
-/// Stores values in the byte order of a stream, which is little-endian.
+/// Stores values as they lie in a stream.
 /// \return the place behind them
 template <class Value>
-std::byte* StoreLittleEndian(std::span<const Value> values, std::byte* bytes) noexcept {
+std::byte* StoreValues(std::span<const Value> values, std::byte* bytes) noexcept {
   std::memcpy(bytes, values.data(), values.size_bytes());
-  ReverseOnBigEndian<sizeof(Value)>(bytes, values.size());
   return bytes + values.size_bytes();
 }
-/// Loads as many values as there are, from bytes that are not needed any more.
+/// Loads as many values as there are.
+/// \return the place behind their bytes
 template <class Value>
-std::byte* LoadLittleEndian(std::byte* bytes, std::span<Value> values) noexcept {
-  ReverseOnBigEndian<sizeof(Value)>(bytes, values.size());
+std::byte* LoadValues(std::byte* bytes, std::span<Value> values) noexcept {
   std::memcpy(values.data(), bytes, values.size_bytes());
   return bytes + values.size_bytes();
 }
 
-/// The most bytes of the units of a text, and of the numbers of a field.
+/// The most bytes of the units of a text.
 inline constexpr std::size_t kMaximumTextSize = std::size_t{2} * kMaximumStringRecordLength;
-inline constexpr std::size_t kMaximumFieldSize = 8192;
+
+/// No object with a record is larger, nor are all of its numbers, each a member of its own.
+inline constexpr std::size_t kMaximumObjectSize = 4096;
 
 /// A list of records is read up to this length. No document holds more; a count beyond it comes
 /// from damaged bytes, and no memory would suffice for the largest.
 inline constexpr int kMaximumRecordCount = 65536;
 
-/// Takes the units of a string record for a text, up to the first zero.
-void TakeUnits(std::byte* bytes, int count, CString& text);
+/// Stores the first so many units of a text.
+/// \param bytes room for the longest text of a record
+void StoreUnits(const CString& text, int count, std::byte* bytes);
 
-/// Writes fields of every version. Fields that follow one another go into the stream in one call
-/// as far as the buffer has room; what the stream answers is not looked at. Nothing is complete
-/// without `Finish`. A record has at least one field.
+/// Fills bytes from a stream and takes their first so many units for a text, up to the first zero.
+/// What the stream does not deliver of the units counts as zeros, so that it ends the text.
+/// \param bytes the units and whatever else is to be read with them, which keeps what is not
+///              delivered
+void ReadUnits(IStream& stream, std::span<std::byte> bytes, int count, CString& text);
+
+/// What goes into a stream in one call, and room behind it for what is stored before it is looked
+/// at again: a count, the longest text, and the numbers of an object of a list and of the one
+/// around it.
+struct WriteBuffer {
+  static constexpr std::size_t kFull = 4096;
+  alignas(double)
+      std::array<std::byte, kFull + sizeof(int) + kMaximumTextSize + 2 * kMaximumObjectSize> bytes;
+};
+
+/// Writes fields of every version into a buffer, which goes into the stream when it is full. What
+/// the stream answers is not looked at. Nothing is complete without `Finish`. A record has at least
+/// one field.
 class RecordWriter {
  public:
-  explicit RecordWriter(IStream& stream) : m_stream(stream) {}
-  RecordWriter(const RecordWriter&) = delete;
-  RecordWriter& operator=(const RecordWriter&) = delete;
+  RecordWriter(IStream& stream, WriteBuffer& buffer)
+      : m_stream(stream), m_begin(buffer.bytes.data()), m_end(m_begin) {}
 
   void Integers(int /*since*/, std::string_view /*name*/, std::span<const int> values) {
-    Store(values);
+    m_end = StoreValues(values, m_end);
   }
   void Doubles(int /*since*/, std::string_view /*name*/, std::span<const double> values) {
-    Store(values);
+    m_end = StoreValues(values, m_end);
   }
   void Strings(int /*since*/, std::string_view /*name*/, std::span<const CString> values) {
     for (const CString& text : values) {
@@ -94,39 +104,36 @@ class RecordWriter {
     const int count = list.GetCount();
     Integers(since, name, {&count, 1});
     for (POSITION position = list.GetHeadPosition(); position != nullptr;) {
-      visit(*list.GetNext(position), *this);
+      const auto& object = *list.GetNext(position);
+      static_assert(sizeof(object) <= kMaximumObjectSize);
+      MakeRoom();
+      visit(object, *this);
     }
   }
   void Finish() {
-    m_stream.Write(m_buffer.data(), static_cast<ULONG>(m_used), nullptr);
-    m_used = 0;
+    m_stream.Write(m_begin, static_cast<ULONG>(m_end - m_begin), nullptr);
+    m_end = m_begin;
   }
 
  private:
   void Text(const CString& text) {
+    MakeRoom();
     const int count = std::min(text.GetLength(), kMaximumStringRecordLength);
-    Store(std::span(&count, 1));
-    if (count == 0) {
-      return;
+    m_end = StoreValues(std::span(&count, 1), m_end);
+    if (count > 0) {
+      StoreUnits(text, count, m_end);
+      m_end += std::ptrdiff_t{2} * count;
     }
-    std::array<unsigned short, kMaximumStringRecordLength> units;
-    const auto stored = std::span(units).first(static_cast<std::size_t>(count));
-    std::ranges::fill(stored, static_cast<unsigned short>(0));  // should less be copied
-    STRING2LPUSHORT(text, units.data(), kMaximumStringRecordLength);
-    Store(std::span<const unsigned short>(stored));
   }
-  template <class Value>
-  void Store(std::span<const Value> values) {
-    if (m_buffer.size() - m_used < values.size_bytes()) {
+  void MakeRoom() {
+    if (m_end - m_begin > static_cast<std::ptrdiff_t>(WriteBuffer::kFull)) {
       Finish();
     }
-    StoreLittleEndian(values, m_buffer.data() + m_used);
-    m_used += values.size_bytes();
   }
 
   IStream& m_stream;
-  std::array<std::byte, kMaximumFieldSize> m_buffer;
-  std::size_t m_used = 0;
+  std::byte* m_begin;
+  std::byte* m_end;
 };
 
 /// What a record is read through. Its bytes stand in the second part as they would in a record
@@ -138,11 +145,15 @@ struct ReadBuffer {
   std::array<std::byte*, sizeof(Object) / sizeof(int)> runEnds;
 };
 
+/// A version that has every field, known to the compiler, which then knows where each of them lies.
+using NewestVersion = std::integral_constant<int, kNewestRecordVersion>;
+
 /// Puts the values that the fields of a version have into a buffer, 0 for every count, and marks
 /// the ends of the runs: behind each count, where the stream goes on with what is counted.
+template <class Version>
 class FieldStorer {
  public:
-  FieldStorer(int version, std::byte* bytes, std::byte** runEnds)
+  FieldStorer(Version version, std::byte* bytes, std::byte** runEnds)
       : m_version(version), m_end(bytes), m_runEnd(runEnds) {}
 
   void Integers(int since, std::string_view /*name*/, std::span<const int> values) {
@@ -166,7 +177,7 @@ class FieldStorer {
   template <class Value>
   void Store(int since, std::span<const Value> values) {
     if (m_version >= since) {
-      m_end = StoreLittleEndian(values, m_end);
+      m_end = StoreValues(values, m_end);
     }
   }
   void Count(int since) {
@@ -177,24 +188,25 @@ class FieldStorer {
     }
   }
 
-  int m_version;
+  Version m_version;
   std::byte* m_end;
   std::byte** m_runEnd;
 };
 
-template <class Object, class Visit>
-void ReadFields(IStream& stream, int version, Object& object, Visit visit);
+template <class Version, class Object, class Visit>
+void ReadFields(IStream& stream, Version version, Object& object, Visit visit);
 
 /// Reads the fields that a document of a version has; the others keep their values. A run of
 /// numbers is read in one call, with the count behind it and the text before it, over a buffer that
 /// holds their previous bytes: where the stream ends early, a field keeps the bytes that were not
 /// delivered.
+template <class Version>
 class RecordReader {
  public:
   /// \param bytes what a `FieldStorer` has stored, behind room for the units of a text
-  RecordReader(IStream& stream, int version, std::byte* bytes, std::byte** runEnds)
+  RecordReader(IStream& stream, Version version, std::byte* bytes, std::byte** runEnds)
       : m_stream(stream), m_version(version), m_bytes(bytes), m_runEnd(runEnds) {
-    ReadRun(bytes);
+    ReadRun();
   }
 
   void Integers(int since, std::string_view /*name*/, std::span<int> values) {
@@ -218,50 +230,48 @@ class RecordReader {
     for (int place = 0; place < count; ++place) {
       ReadFields(m_stream, m_version, list.Append(std::make_unique<Object>()), visit);
     }
-    ReadRun(m_bytes);
+    ReadRun();
   }
 
  private:
   template <class Value>
   void Load(int since, std::span<Value> values) {
     if (m_version >= since) {
-      m_bytes = LoadLittleEndian(m_bytes, values);
+      m_bytes = LoadValues(m_bytes, values);
     }
   }
   int LoadCount() {
     int count = 0;
-    m_bytes = LoadLittleEndian(m_bytes, std::span(&count, 1));
+    m_bytes = LoadValues(m_bytes, std::span(&count, 1));
     return count;
   }
-  /// The units are read to where the bytes of earlier fields were, zeroes before, so that a stream
-  /// that ends early ends the text.
+  /// The units are read to where the bytes of earlier fields were.
   void Text(int since, CString& text) {
     if (m_version < since) {
       return;
     }
-    const int count = std::clamp(LoadCount(), 0, kMaximumStringRecordLength);
-    std::byte* const units = m_bytes - std::ptrdiff_t{2} * count;
-    std::fill(units, m_bytes, std::byte{0});
-    ReadRun(units);
+    const int count = std::min(LoadCount(), kMaximumStringRecordLength);
     if (count > 0) {
-      TakeUnits(units, count, text);
+      ReadUnits(m_stream, {m_bytes - std::ptrdiff_t{2} * count, *m_runEnd++}, count, text);
+    } else {
+      ReadRun();
     }
   }
-  void ReadRun(std::byte* first) {
-    const auto size = static_cast<ULONG>(*m_runEnd++ - first);
+  void ReadRun() {
+    const auto size = static_cast<ULONG>(*m_runEnd++ - m_bytes);
     if (size > 0) {
-      m_stream.Read(first, size, nullptr);
+      m_stream.Read(m_bytes, size, nullptr);
     }
   }
 
   IStream& m_stream;
-  int m_version;
+  Version m_version;
   std::byte* m_bytes;
   std::byte** m_runEnd;
 };
 
-template <class Object, class Visit>
-void ReadFields(IStream& stream, int version, Object& object, Visit visit) {
+template <class Version, class Object, class Visit>
+void ReadFields(IStream& stream, Version version, Object& object, Visit visit) {
   ReadBuffer<Object> buffer;
   std::byte* const bytes = buffer.bytes.data() + kMaximumTextSize;
   FieldStorer storer(version, bytes, buffer.runEnds.data());
@@ -309,12 +319,10 @@ std::span<Value> ValuesOf(Value& value) noexcept {
 }
 template <class Value, std::size_t Count>
 std::span<Value> ValuesOf(Value (&values)[Count]) noexcept {
-  static_assert(sizeof(values) <= kMaximumFieldSize);
   return values;
 }
 template <class Value, std::size_t Rows, std::size_t Columns>
 std::span<Value> ValuesOf(Value (&values)[Rows][Columns]) noexcept {
-  static_assert(sizeof(values) <= kMaximumFieldSize);
   return {&values[0][0], Rows * Columns};
 }
 
@@ -324,7 +332,9 @@ int WriteRecord(IStream* stream, const Object& object, Visit visit) {
   if (stream == nullptr) {
     return 0;
   }
-  RecordWriter writer(*stream);
+  static_assert(sizeof(object) <= kMaximumObjectSize);
+  WriteBuffer buffer;
+  RecordWriter writer(*stream, buffer);
   visit(object, writer);
   writer.Finish();
   return 1;
@@ -337,7 +347,11 @@ int ReadRecord(IStream* stream, int version, int first, Object& object, Visit vi
   if (stream == nullptr || version < first) {
     return 0;
   }
-  ReadFields(*stream, version, object, visit);
+  if (version >= kNewestRecordVersion) {
+    ReadFields(*stream, NewestVersion(), object, visit);
+  } else {
+    ReadFields(*stream, version, object, visit);
+  }
   return 1;
 }
 

@@ -1,27 +1,32 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstring>
 #include <span>
 
 #include <mqPostCommon/params/stream/record.h>
 #include <mqPostCommon/params/stream/strings.h>
 
-void mqp::TakeUnits(std::byte* bytes, int count, CString& text) {
-  std::array<mqChar, kMaximumStringRecordLength> units;
-  const auto taken = std::span(units).first(static_cast<std::size_t>(count));
-  LoadLittleEndian(bytes, taken);
-  const auto end = std::ranges::find(taken, mqChar{0});
-  text = CString(units.data(), static_cast<int>(end - taken.begin()));
+void mqp::StoreUnits(const CString& text, int count, std::byte* bytes) {
+  std::memset(bytes, 0, sizeof(mqChar) * static_cast<std::size_t>(count));  // should less be copied
+  STRING2LPUSHORT(text, reinterpret_cast<unsigned short*>(bytes), kMaximumStringRecordLength);
+}
+
+void mqp::ReadUnits(IStream& stream, std::span<std::byte> bytes, int count, CString& text) {
+  std::array<mqChar, kMaximumStringRecordLength + 1> units;
+  const auto read = std::span(units).first(static_cast<std::size_t>(count));
+  std::memset(bytes.data(), 0, read.size_bytes());
+  stream.Read(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
+  LoadValues(bytes.data(), read);
+  units[read.size()] = 0;
+  text = units.data();
 }
 
 int CStringWriteToStream(IStream* stream, CString* text) {
-  if (stream == nullptr || text == nullptr) {
-    return 0;
-  }
-  mqp::RecordWriter writer(*stream);
-  writer.Strings(0, {}, {text, 1});
-  writer.Finish();
-  return 1;
+  return text == nullptr ? 0
+                         : mqp::WriteRecord(stream, *text, [](const CString& value, auto& writer) {
+                             writer.Strings(0, {}, {&value, 1});
+                           });
 }
 
 int CStringReadFromStream(IStream* stream, CString* text) {
@@ -32,14 +37,12 @@ int CStringReadFromStream(IStream* stream, CString* text) {
   int count = 0;
   std::fill_n(bytes.data(), sizeof(count), std::byte{0});
   stream->Read(bytes.data(), sizeof(count), nullptr);
-  mqp::LoadLittleEndian(bytes.data(), std::span(&count, 1));
+  mqp::LoadValues(bytes.data(), std::span(&count, 1));
   if (count < 1) {
     return 0;
   }
   count = std::min(count, mqp::kMaximumStringRecordLength);
   const auto size = sizeof(mqChar) * static_cast<std::size_t>(count);
-  std::fill_n(bytes.data(), size, std::byte{0});
-  stream->Read(bytes.data(), static_cast<ULONG>(size), nullptr);
-  mqp::TakeUnits(bytes.data(), count, *text);
+  mqp::ReadUnits(*stream, std::span(bytes).first(size), count, *text);
   return 1;
 }
