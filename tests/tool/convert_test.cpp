@@ -87,6 +87,28 @@ TEST(ConvertVerb, ATextThatEndsEarlyIsACorrection) {
             (json{{"stored", std::string("Gr\0ph 1", 7)}, {"read", "Gr"}}));
 }
 
+// Empty, it is written as a count of 0, and that leaves what an object holds before it is read.
+TEST(ConvertVerb, ATextThatEndsAtOnceBecomesTheDefaultThatIsReadFromThenOn) {
+  const Folder folder;
+  ByteString record = EquationRecord();
+  // The name of the second variable, "Variable1" in quotes.
+  ASSERT_EQ(record[162], std::byte{'"'});
+  record[162] = std::byte{0};
+  WriteEquationDocument(folder / "old.cfb", record);
+  const std::string first = folder.Name("first.cfb");
+  const std::string second = folder.Name("second.cfb");
+  const json report = RunForJson(ConvertCommand(folder.Name("old.cfb"), first, 890110));
+  EXPECT_EQ(report.at("records")[0].at("corrected"),
+            (json{{"variable 1: name",
+                   {{"stored", std::string("\0Variable1\"", 11)}, {"read", "Variable"}}}}));
+  const json again = RunForJson(ConvertCommand(first, second, 890110));
+  EXPECT_EQ(again.at("records")[0].at("corrected"), json::object());
+  const auto written = [](const std::string& document) {
+    return host::CompoundDocument(fs::path(document)).ReadStream("Plots/EquationPlot1");
+  };
+  EXPECT_EQ(written(second), written(first));
+}
+
 // ---------------------------------------------------------------------------------------------
 // Equation plots
 

@@ -95,7 +95,9 @@ StoredRecord::StoredRecord(const RecordKind& kind, std::string where, std::vecto
     : m_kind(&kind), m_where(std::move(where)), m_version(version), m_stored(std::move(stored)) {
   m_storedView = ViewRecord(m_stored, kind.layout, version);
   if (!Check()) {
-    m_new = kind.rewrite(m_stored, version);
+    // A text that ends at its first unit is written as an empty one, for which the next reader
+    // finds its default: what it writes, every later one reads and writes again.
+    m_new = kind.rewrite(kind.rewrite(m_stored, version), kNewestRecordVersion);
     m_newView = ViewRecord(m_new, kind.layout, kNewestRecordVersion);
   }
 }
