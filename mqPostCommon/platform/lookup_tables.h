@@ -54,7 +54,7 @@ class KeyTable {
     const int bits = std::countr_zero(m_slots.size());
     std::size_t place = static_cast<std::size_t>(key * kGoldenRatio >> (64 - bits));
     while (m_slots[place].number != kNone &&
-           !(m_slots[place].key == key && isMeant(m_slots[place].number))) {
+           (m_slots[place].key != key || !isMeant(m_slots[place].number))) {
       place = (place + 1) & (m_slots.size() - 1);
     }
     return place;
