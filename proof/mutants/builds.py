@@ -83,7 +83,7 @@ class Preset:
         for entry in commands:
             words = shlex.split(entry["command"])
             target = words[words.index("-o") + 1]
-            if target.startswith(("mqPostCommon/", "tests/")):
+            if target.startswith(("mqPostCommon/", "host/GfxCore/", "tests/")):
                 source = str(Path(entry["file"]).relative_to(root))
                 self.commands[target] = (source, self._plain(words))
         self.uses = self._read_dependencies()
@@ -143,6 +143,11 @@ class Preset:
     def library_objects(self, path):
         """The objects of the library that are made of a file."""
         return [target for target in self.objects(LIBRARY) if path in self.uses.get(target, ())]
+
+    def host_objects(self, path):
+        """The objects of the display library, whose header stands among those of the library."""
+        return [target for target in self.objects("host/GfxCore/")
+                if path in self.uses.get(target, ())]
 
     def test_objects(self, suite, path):
         return [target for target in self.objects(self.tests(suite))

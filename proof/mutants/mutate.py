@@ -228,6 +228,7 @@ def stages(preset, path):
     source = f"tests/{wing}/{HEADER_TESTS.get(stem, stem)}_test.cpp"
     own = [target for target in preset.test_objects(suite, path)
            if preset.commands[target][0] == source]
+    own += preset.host_objects(path) if own else []
     found = [Stage(own, suite, [suite], True)]
     if wing != "platform" or not sanitized:
         suites = SUITES_OF[wing][:1] if sanitized else SUITES_OF[wing]
