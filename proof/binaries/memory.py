@@ -59,7 +59,8 @@ LONG = [
 
 def run_suite(program, left_out):
     """Returns how many tests passed."""
-    output = run(*VALGRIND, program, "--gtest_brief=1", "--gtest_filter=-" + ":".join(left_out))
+    output = run(*VALGRIND, program, "--gtest_brief=1", "--gtest_filter=-" + ":".join(left_out),
+                 environment={"MQ_INSTRUMENTED": "1"})
     passed = [line for line in output.decode().splitlines() if line.startswith("[  PASSED  ]")]
     demand(len(passed) == 1, f"{program.name} has passed no test")
     return int(passed[0].split("]")[1].split()[0])

@@ -159,11 +159,7 @@ class AllocationFailures : public testing::Test {
   int m_cases = 0;
 
  protected:
-  void SetUp() override {
-    if (!IsLibraryWatched()) {
-      GTEST_SKIP() << "the memory of the library is not that of this program";
-    }
-  }
+  void SetUp() override { RequireLibraryWatched(); }
 };
 
 /// The same for operations that load display texts.
@@ -171,8 +167,8 @@ class TextAllocationFailures : public AllocationFailures {
  protected:
   void SetUp() override {
     AllocationFailures::SetUp();
-    if (!IsSkipped() && !IsStringTableWatched()) {
-      GTEST_SKIP() << "the memory of the string table is not that of this program";
+    if (!IsSkipped()) {
+      RequireStringTableWatched();
     }
   }
 };

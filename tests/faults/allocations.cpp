@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include <gtest/gtest.h>
 #include <mqPostCommon/display/assembly_list.h>
 #include <mqPostCommon/platform/comm_funcs.h>
 
@@ -103,6 +104,8 @@ void EndRefusals() noexcept {
   g_refusals = {};
 }
 
+namespace {
+
 bool IsLibraryWatched() {
   CDspAsmCompList list;
   const CDspAsmComp component;
@@ -117,6 +120,24 @@ bool IsStringTableWatched() {
   CString text;
   mqpLoadString(text, kLongText);
   return g_counts.allocations != before;
+}
+
+void RequireWatched(bool isWatched, bool isReplaced) {
+  if (!isWatched) {
+    ASSERT_TRUE(!isReplaced || std::getenv("MQ_INSTRUMENTED") != nullptr)
+        << "memory is handed out that nobody counts";
+    GTEST_SKIP() << "the memory is not that of this program";
+  }
+}
+
+}  // namespace
+
+void RequireLibraryWatched() {
+  RequireWatched(IsLibraryWatched(), MQ_IS_REPLACED);
+}
+
+void RequireStringTableWatched() {
+  RequireWatched(IsStringTableWatched(), MQ_IS_TABLE_REPLACED);
 }
 
 }  // namespace mqp::test

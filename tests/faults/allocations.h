@@ -64,8 +64,10 @@ Outcome RunWith(Refusals refusals, Operation&& operation) {
   return outcome;
 }
 
-/// Whether the memory of the library is under watch, and that of the string table.
-bool IsLibraryWatched();
-bool IsStringTableWatched();
+/// Skips the test where an instrument or a platform gives the library, or the string table, other
+/// memory than that of this program; fails anywhere else where that is not under watch. An
+/// instrument says so by the environment variable MQ_INSTRUMENTED.
+void RequireLibraryWatched();
+void RequireStringTableWatched();
 
 }  // namespace mqp::test

@@ -68,6 +68,7 @@ class FaultyStream : public host::MemoryStream {
 
   HRESULT Read(void* buffer, ULONG size, ULONG* transferred) override {
     countsAsked += transferred != nullptr ? 1 : 0;
+    mostAsked = std::max(mostAsked, size);
     const Fault* fault = NextFault();
     auto* bytes = static_cast<std::byte*>(buffer);
     ULONG delivered = 0;
@@ -89,6 +90,7 @@ class FaultyStream : public host::MemoryStream {
   }
   HRESULT Write(const void* buffer, ULONG size, ULONG* transferred) override {
     countsAsked += transferred != nullptr ? 1 : 0;
+    mostAsked = std::max(mostAsked, size);
     const Fault* fault = NextFault();
     const auto* bytes = static_cast<const std::byte*>(buffer);
     written.insert(written.end(), bytes, bytes + size);
@@ -101,6 +103,7 @@ class FaultyStream : public host::MemoryStream {
   ByteString written;
   int calls = 0;
   int countsAsked = 0;  ///< calls that wanted to know how many bytes were transferred
+  ULONG mostAsked = 0;  ///< the most bytes of one call
 
  private:
   const Fault* NextFault() {

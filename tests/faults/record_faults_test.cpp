@@ -17,6 +17,10 @@
 namespace mqp::test {
 namespace {
 
+/// A stream may be made for calls up to these sizes.
+constexpr ULONG kMostRead = 4096;
+constexpr ULONG kMostWritten = 8192;
+
 template <class Kind>
 class RecordFaults : public ::testing::Test {
  protected:
@@ -52,6 +56,7 @@ class RecordFaults : public ::testing::Test {
     LoggedFields log(stream.read);
     const int expectedResult = Kind::Expect(expected, version, log);
     const std::string differences = Kind::Differences(object, expected) + log.Imbalance();
+    EXPECT_LE(stream.mostAsked, kMostRead) << row();
     if (result != expectedResult || !differences.empty() || stream.countsAsked != 0) {
       ADD_FAILURE() << row() << ", version " << version << "\nresult: got " << result
                     << ", expected " << expectedResult << "\ncounts asked for: got "
@@ -71,6 +76,7 @@ class RecordFaults : public ::testing::Test {
     FaultyStream stream({}, plan);
     EXPECT_EQ(Kind::Write(object, &stream), 1) << row();
     EXPECT_EQ(stream.countsAsked, 0) << row();
+    EXPECT_LE(stream.mostAsked, kMostWritten) << row();
     EXPECT_EQ(ByteDifference(stream.written, Kind::Bytes(state, Kind::kNewestVersion)), "")
         << row();
     EXPECT_EQ(Kind::Differences(object, state), "") << row();

@@ -238,6 +238,12 @@ TEST(CurveVerb, FilesThatCannotBeReadAreFileTroubles) {
   EXPECT_EQ(missing.code, 5);
   EXPECT_EQ(missing.err,
             "mqpost: " + folder.Name("missing.csv") + ": There is no such file. Check the path.\n");
+  WriteText(folder / "large.csv", "1,2\n");
+  fs::resize_file(folder / "large.csv", (64U << 20) + 1);
+  const Outcome large = RunTool({"curve", folder.Name("large.csv"), "--at", "1"});
+  EXPECT_EQ(large.code, 5);
+  EXPECT_EQ(large.err, "mqpost: " + folder.Name("large.csv") +
+                           ": The file is larger than 64 MB. Leave out what is not needed.\n");
   const Outcome unreadable = RunTool({"curve", folder.Name("folder.csv"), "--at", "1"});
   EXPECT_EQ(unreadable.code, 5);
   EXPECT_TRUE(Contains(unreadable.err, "folder.csv: This is a folder.")) << unreadable;

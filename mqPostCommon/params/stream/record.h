@@ -220,7 +220,8 @@ class RecordReader {
       Text(since, text);
     }
   }
-  /// Appends to the list. Nothing is reserved: only as many objects are made as are read.
+  /// Appends to the list. Nothing is reserved; what is claimed is made even where the stream has
+  /// ended.
   template <class Object, class Visit>
   void Records(int since, std::string_view /*name*/, OwnedList<Object>& list, Visit visit) {
     if (m_version < since) {
