@@ -17,7 +17,8 @@ count at all.
 
   mutate.py --sample 120            some faults of every file
   mutate.py --changed-since main    the lines that differ from a revision; with --sample 120 as
-                                    many of these before as many of the others (./dev test)
+                                    many of these and of the rest of their files, and as many of
+                                    the others (./dev test)
   mutate.py --all                   every fault: hours
 """
 
@@ -401,14 +402,18 @@ def parse():
 
 
 def choose(mutants, options):
-    """Those that the command line asks for; of changed lines first."""
+    """Those that the command line asks for; of changed lines and files first."""
     lines = changed_lines(options.changed_since) if options.changed_since else set()
     changed = [mutant for mutant in mutants if (mutant.path, mutant.line) in lines]
     if not options.sample:
         return changed if options.changed_since else mutants
-    others = [mutant for mutant in mutants if (mutant.path, mutant.line) not in lines]
-    return [mutant for some in (changed, others)
-            for mutant in sample(some, options.sample, options.seed)]
+    files = {path for path, _ in lines}
+    beside = [mutant for mutant in mutants
+              if mutant.path in files and (mutant.path, mutant.line) not in lines]
+    others = [mutant for mutant in mutants if mutant.path not in files]
+    chosen = sample(changed, options.sample, options.seed)
+    chosen += sample(beside, options.sample - len(chosen), options.seed)
+    return chosen + sample(others, options.sample, options.seed)
 
 
 def main():
