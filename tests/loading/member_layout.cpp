@@ -265,6 +265,9 @@ static_assert(sizeof(CDspAsmCompList) == 48);
 static_assert(offsetof(CDspAsmCompList, m_arrComps) == 0);
 static_assert(offsetof(CDspAsmCompList, m_arrCompValues) == 24);
 
+static_assert(sizeof(CDspAsmCompIndex) == 16);  // of its one member, which is private
+static_assert(alignof(CDspAsmCompIndex) == 8);
+
 static_assert(sizeof(CSTLVertex) == 12);
 static_assert(offsetof(CSTLVertex, m_fX) == 0);
 static_assert(offsetof(CSTLVertex, m_fY) == 4);
