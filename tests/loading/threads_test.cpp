@@ -1,5 +1,5 @@
-// Four threads ask every function of the catalogue at once and work on objects of their own; each
-// gets what one thread alone gets. A thread sanitizer sees the rest.
+// Four threads ask every function of the catalogue and one index of components at once and work on
+// objects of their own; each gets what one thread alone gets. A thread sanitizer sees the rest.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -249,19 +249,132 @@ ByteString WorkOnMaterials(int seed) {
   return bytes.Get();
 }
 
-ByteString WorkOnAnAssembly(int seed) {
+/// Ranges that overlap, and names and bodies that occur several times.
+CDspAsmCompList MakeAssembly(int names) {
   CDspAsmCompList list;
   for (int number = 0; number < 20; ++number) {
-    CDspAsmComp component(number, 10 * number + 1, 10 * number + 10, COGLColor{}, 0);
-    component.m_strCompName.Format(MQ_TEXT("Part %d"), number % (seed + 1));
+    CDspAsmComp component(number, 10 * number + 1, 10 * number + 15, COGLColor{}, 0);
+    component.m_strCompName.Format(MQ_TEXT("Part %d"), number % names);
+    component.m_nBodyID = number % (2 * names);
     list.Add(component);
   }
-  list.HideAllExceptOneComponent(MQ_TEXT("part 1"));
+  return list;
+}
+
+ByteString WorkOnAnAssembly(int seed) {
+  CDspAsmCompList list = MakeAssembly(seed + 1);
+  list.HideAllExceptOneComponent(MQ_TEXT("Part 1"));
   list.SortByElemID(seed % 2);
   RecordBytes bytes;
   for (int index = 0; index < list.GetSize(); ++index) {
     const CDspAsmComp component = list.GetAt(index);
     bytes.Integer(component.m_nCompID).Integer(component.m_bHidden);
+  }
+  return bytes.Get();
+}
+
+void AddAnswers(RecordBytes& bytes, const CDspAsmCompIndex& index, int seed) {
+  bytes.Integer(index.GetSize());
+  for (int number = seed - 2; number < 230; number += 7) {
+    int visible = -7;
+    bytes.Integer(index.GetVisPartIndex_1based(number, &visible)).Integer(visible);
+    bytes.Integer(index.GetActiveElemIndex(number / 10, seed));
+    bytes.Integer(index.GetIndexByBodyID(number / 10));
+    CString name;
+    name.Format(number % 2 == 0 ? MQ_TEXT("Part %d") : MQ_TEXT("PART %d"), number % 5);
+    bytes.Integer(index.IsComponentExistByName(name));
+    std::vector<int> found;
+    index.GetBodyListByPartName(&found, name);
+    std::ranges::for_each(found, [&bytes](int component) { bytes.Integer(component); });
+  }
+}
+
+/// The threads ask one and the same index, and each makes a copy that takes the place of an index
+/// of its own.
+ByteString WorkOnASharedIndex(int seed) {
+  static const CDspAsmCompIndex shared(MakeAssembly(4));
+  RecordBytes bytes;
+  AddAnswers(bytes, shared, seed);
+  CDspAsmCompIndex own(MakeAssembly(seed));
+  AddAnswers(bytes, own, seed);
+  own = CDspAsmCompIndex(shared);
+  AddAnswers(bytes, own, seed);
+  return bytes.Get();
+}
+
+ByteString WorkOnAPlot(int seed) {
+  CmqPostDataParam plot;
+  plot.m_strPlotName.Format(MQ_TEXT("Plot %d"), seed);
+  plot.m_nAnalysisType = seed;
+  plot.m_nResultType = 5;
+  plot.m_nComponent = seed;
+  plot.m_nEnvelopeFlag = 1;
+  plot.m_nDeformScaleMode = seed % 3;
+  plot.m_fDeformScaleFactor0 = 2.5F * static_cast<float>(seed);
+  plot.m_fDeformScaleFactor1 = 0.5F * static_cast<float>(seed);
+  for (int number = 0; number < seed; ++number) {
+    plot.m_arrHost31.Add(10 * seed + number);
+    plot.m_arrHost32.Add(plot.m_strPlotName);
+  }
+  SetState(plot.m_EquationPlot, FilledEquation(seed, seed % 3));
+  const CmqPostDataParam copy(plot);
+  CmqPostDataParam target;
+  target = copy;
+  RecordBytes bytes;
+  bytes.Text(target.m_strPlotName.View()).Double(target.GetDeformScaleFactor());
+  bytes.Integer(target.IsEnvelopPlot()).Integer(target.IsThermalHeatEnergy());
+  bytes.Text(target.m_EquationPlot.m_strEquation.View());
+  for (int index = 0; index < target.m_arrHost31.GetSize(); ++index) {
+    bytes.Integer(target.m_arrHost31[index]).Text(target.m_arrHost32[index].View());
+  }
+  return bytes.Get();
+}
+
+ByteString WorkOnAnAnimation(int seed) {
+  CmqpAnimateParam animation;
+  animation.m_strHost6.Format(MQ_TEXT("Animation %d"), seed);
+  RecordBytes bytes;
+  for (const int frames : {seed, 10 * seed}) {
+    bytes.Integer(animation.SetNFrames(frames)).Integer(animation.m_nFrames);
+  }
+  const CmqpAnimateParam copy(animation);
+  CmqpAnimateParam target;
+  target = copy;
+  return bytes.Integer(target.m_nFrames).Text(target.m_strHost6.View()).Get();
+}
+
+ByteString WorkOnFacets(int seed) {
+  std::vector<CSTLVertex> vertices(static_cast<std::size_t>(seed));
+  for (CSTLVertex& vertex : vertices) {
+    vertex.SetX(static_cast<float>(seed));
+    vertex.SetZ(0.25F * static_cast<float>(&vertex - vertices.data()));
+  }
+  const CSTLFacet facet(vertices.back(), vertices);
+  CSTLFacet target({}, {});
+  target = CSTLFacet(facet);
+  RecordBytes bytes;
+  bytes.Integer(target.m_nVertices).Double(target.m_Normal.GetZ());
+  for (const CSTLVertex& vertex : target.m_vecVertices) {
+    bytes.Double(vertex.GetX()).Double(vertex.GetY()).Double(vertex.GetZ());
+  }
+  return bytes.Get();
+}
+
+ByteString WorkOnElementValues(int seed) {
+  CMqStressTensorValuesOfAllNodesOfElement tensors;
+  tensors.m_nNodes = seed;
+  for (int slot = 0; slot < 10; ++slot) {
+    tensors.m_nNodeIDs[slot] = 100 * seed + slot;
+    std::ranges::fill(tensors.m_fStressTensor[slot], static_cast<float>(slot - seed));
+  }
+  tensors.ApplyUnits(0.5F);
+  const CMqStressTensorValuesOfAllNodesOfElement copy(tensors);
+  CMqNodalResultValuesOfElement values;
+  values = copy.GetSpecificResult(static_cast<float>(seed));
+  RecordBytes bytes;
+  bytes.Integer(values.m_nNodes);
+  for (int slot = 0; slot < 10; ++slot) {
+    bytes.Integer(values.m_nNodeIDs[slot]).Double(values.m_fValues[slot]);
   }
   return bytes.Get();
 }
@@ -277,10 +390,15 @@ constexpr auto kWorks = std::to_array<Work>({
     {"list",      WorkOnAList},
     {"materials", WorkOnMaterials},
     {"assembly",  WorkOnAnAssembly},
+    {"index",     WorkOnASharedIndex},
+    {"plot",      WorkOnAPlot},
+    {"animation", WorkOnAnAnimation},
+    {"facets",    WorkOnFacets},
+    {"values",    WorkOnElementValues},
 });
 // clang-format on
 
-TEST(FourThreads, EachWorkOnObjectsOfTheirOwnAsOneDoes) {
+TEST(FourThreads, EachWorkOnObjectsOfTheirOwnAndASharedIndexAsOneDoes) {
   constexpr int kRounds = 300;
   constexpr int kSeeds = 7;
   std::vector<ByteString> expected;
@@ -294,7 +412,9 @@ TEST(FourThreads, EachWorkOnObjectsOfTheirOwnAsOneDoes) {
   OnFourThreads([&](int thread) {
     for (int round = 0; round < kRounds; ++round) {
       const int seed = (round + thread) % kSeeds + 1;
-      for (std::size_t place = 0; place < kWorks.size(); ++place) {
+      for (std::size_t step = 0; step < kWorks.size(); ++step) {
+        // Two begin with the same work, the others with the next one.
+        const std::size_t place = (step + static_cast<std::size_t>(thread / 2)) % kWorks.size();
         const std::size_t row = static_cast<std::size_t>(seed - 1) * kWorks.size() + place;
         if (kWorks[place].run(seed) != expected[row]) {
           wrong[static_cast<std::size_t>(thread)] = kWorks[place].name;
