@@ -177,6 +177,7 @@ int IsPartMissing(const Entries& entries, const Entries& other) {
 }
 
 std::optional<int> VisibleIndex(const Entries& entries, int element) {
+  std::optional<int> index;
   for (const Entry& entry : entries) {
     const int first = IntAt(entry.component, "first");
     const bool contains = first <= element && element <= IntAt(entry.component, "last");
@@ -187,11 +188,14 @@ std::optional<int> VisibleIndex(const Entries& entries, int element) {
       Hit("visible: hidden");
       continue;
     }
-    Hit("visible: yes");
-    return Wrapped(std::int64_t{IntAt(entry.component, "index base")} - first + element);
+    if (index.has_value()) {
+      Hit("visible: the first of some");
+      return index;
+    }
+    index = Wrapped(std::int64_t{IntAt(entry.component, "index base")} - first + element);
   }
-  Hit("visible: no");
-  return std::nullopt;
+  Hit(index.has_value() ? "visible: the only one" : "visible: no");
+  return index;
 }
 
 int ActiveIndex(const Entries& entries, int index, int base) {
@@ -208,7 +212,7 @@ int ActiveIndex(const Entries& entries, int index, int base) {
   return Wrapped(sum);
 }
 
-int FindBody(const Entries& entries, int body) {
+int FindBody(const Entries& entries, long body) {
   for (std::size_t index = 0; index < entries.size(); ++index) {
     if (IntAt(entries[index].component, "body id") == body) {
       Hit("body id: found");

@@ -35,7 +35,7 @@ int CountWithResults(const Entries& entries);
 int IsPartMissing(const Entries& entries, const Entries& other);
 std::optional<int> VisibleIndex(const Entries& entries, int element);
 int ActiveIndex(const Entries& entries, int index, int base);
-int FindBody(const Entries& entries, int body);
+int FindBody(const Entries& entries, long body);
 std::vector<int> PartsNamed(const Entries& entries, const Text& name);
 Entries OnesNamed(const Entries& entries, std::string_view which, const Text& name);
 int Exists(const Entries& entries, const Text& name);

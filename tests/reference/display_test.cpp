@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 #include <memory>
 #include <string>
@@ -112,8 +113,14 @@ void ExpectRefused(Act act, int index) {
   EXPECT_THROW(act(), CInvalidArgException) << index;
 }
 
+/// Where `long` is wider than the ids, some differ from one of them in the upper half alone.
+long AnyBody(Random& random) {
+  const std::int64_t body = random.Once(6) ? random.Int() : random.Between(-2, 6);
+  return static_cast<long>(body + (std::int64_t{random.Of({0, 0, 0, 0, -1, 1})} << 32));
+}
+
 void AskByBody(const CDspAsmCompList& list, const Entries& model, Random& random) {
-  const int body = random.Once(6) ? random.Int() : random.Between(-2, 6);
+  const long body = AnyBody(random);
   const int found = FindBody(model, body);
   ASSERT_EQ(found, list.GetIndexByBodyID(body)) << body;
   CDspAsmComp out;
@@ -158,6 +165,28 @@ void AskForPlaces(const CDspAsmCompList& list, const Entries& model, Random& ran
       << component << " from " << base;
   ASSERT_EQ(AllHidden(model), list.AllHidden());
   ASSERT_EQ(CountWithResults(model), list.GetPostAvailableCompCount());
+}
+
+/// One question of each kind.
+void AskIndex(const CDspAsmCompIndex& index, const Entries& model, int element, Random& random) {
+  ASSERT_EQ(static_cast<int>(model.size()), index.GetSize());
+  int got = -777;
+  const std::optional<int> visible = VisibleIndex(model, element);
+  ASSERT_EQ(visible.has_value() ? 1 : 0, index.GetVisPartIndex_1based(element, &got)) << element;
+  ASSERT_EQ(visible.value_or(-777), got) << element;
+  const int component = random.Once(10) ? random.Int() : random.Between(-1, index.GetSize() + 1);
+  const int base = random.Once(10) ? random.Int() : random.Between(-5, 100);
+  ASSERT_EQ(ActiveIndex(model, component, base), index.GetActiveElemIndex(component, base))
+      << component << " from " << base;
+  const long body = AnyBody(random);
+  ASSERT_EQ(FindBody(model, body), index.GetIndexByBodyID(body)) << body;
+  const Text name = AnyName(random);
+  ASSERT_EQ(Exists(model, name), index.IsComponentExistByName(StringOf(name))) << Printable(name);
+  std::vector<int> expected = {99};
+  std::vector<int> indices = {99};
+  std::ranges::copy(PartsNamed(model, name), std::back_inserter(expected));
+  index.GetBodyListByPartName(&indices, StringOf(name));
+  ASSERT_EQ(expected, indices) << Printable(name);
 }
 
 void AskForColors(const CDspAsmCompList& list, const Entries& model) {
@@ -347,8 +376,11 @@ TEST(DisplayReference, ListsChangeAndAnswerAsAPlainVectorDoes) {
       ASSERT_NO_FATAL_FAILURE(AskForColors(list, model));
       ASSERT_NO_FATAL_FAILURE(AskForOthers(list, model, random));
       ASSERT_NO_FATAL_FAILURE(AskComponents(list, model));
+      const CDspAsmCompIndex index(list);
+      const Entries indexed = model;
       ASSERT_EQ("", Difference(model, list)) << "a question changed the list";
       ASSERT_NO_FATAL_FAILURE(Change(list, model, random));
+      ASSERT_NO_FATAL_FAILURE(AskIndex(index, indexed, random.Between(-3, 45), random));
     }
   }
   CheckTally("equal", {"equal: no", "equal: in all", "equal: in what counts"});
@@ -357,7 +389,8 @@ TEST(DisplayReference, ListsChangeAndAnswerAsAPlainVectorDoes) {
   CheckTally("hidden", {"hidden: not all", "hidden: none there", "hidden: all"});
   CheckTally("results", {"results: counted", "results: begins or ends at 0"});
   CheckTally("missing", {"missing: yes", "missing: nothing asked", "missing: no"});
-  CheckTally("visible", {"visible: yes", "visible: hidden", "visible: no"});
+  CheckTally("visible", {"visible: the only one", "visible: the first of some", "visible: hidden",
+                         "visible: no"});
   CheckTally("active", {"active: outside", "active: first", "active: later"});
   CheckTally("body id", {"body id: found", "body id: unknown"});
   CheckTally("part", {"part: same name", "part: other case"});
@@ -371,6 +404,62 @@ TEST(DisplayReference, ListsChangeAndAnswerAsAPlainVectorDoes) {
   CheckTally("sort", {"sort: nothing to do", "sort: equal keys", "sort: up", "sort: down"});
   CheckTally("change", {"change: copied"});
   RecordCases(cases);
+}
+
+constexpr std::int64_t kLastElement = std::numeric_limits<int>::max();
+
+/// Mostly near a place at which ranges crowd.
+int ElementNear(int place, Random& random) {
+  switch (random.Below(12)) {
+    case 0: return random.Int();
+    case 1: return random.Between(0, std::numeric_limits<int>::max());
+    case 2: return place + random.Between(-100'000, 100'000);
+    default: return place + random.Between(-60, 60);
+  }
+}
+
+CDspAsmComp ComponentNear(int place, Random& random) {
+  CDspAsmComp component;
+  const std::int64_t first = ElementNear(place, random);
+  const std::int64_t last = random.Once(4) ? ElementNear(place, random) : first + random.Below(10);
+  component.m_nFirstElem = static_cast<int>(first);
+  component.m_nLastElem = static_cast<int>(std::min(last, kLastElement));
+  component.m_bHidden = random.Of({0, 0, 0, 0, 1, -1});
+  component.m_strCompName = StringOf(AnyName(random));
+  component.m_nBodyID = random.Once(4) ? random.Int() : random.Between(-2, 40);
+  component.m_nVisIndexBase = random.Once(4) ? random.Int() : random.Between(1, 500);
+  return component;
+}
+
+// Enough of them for an index to look in steps, among ranges that lie about one another.
+TEST(DisplayReference, IndexesOfManyComponentsAnswerAsAPlainVectorDoes) {
+  ResetTally();
+  Random random(5103);
+  const int lists = CountCases(150);
+  constexpr int kQuestions = 60;
+  for (int number = 0; number < lists; ++number) {
+    SCOPED_TRACE("list " + std::to_string(number));
+    const int place =
+        random.Once(2) ? 50 : random.Between(200'000, std::numeric_limits<int>::max() - 200'000);
+    CDspAsmCompList list;
+    Entries model;
+    for (int size = random.Between(0, 120); size > 0; --size) {
+      const CDspAsmComp component = ComponentNear(place, random);
+      list.Add(component);
+      Append(model, Snapshot(component));
+    }
+    const CDspAsmCompIndex index(list);
+    list.RemoveAll();
+    for (int question = 0; question < kQuestions; ++question) {
+      ASSERT_NO_FATAL_FAILURE(AskIndex(index, model, ElementNear(place, random), random));
+    }
+  }
+  CheckTally("visible", {"visible: the only one", "visible: the first of some", "visible: hidden",
+                         "visible: no"});
+  CheckTally("active", {"active: outside", "active: first", "active: later"});
+  CheckTally("body id", {"body id: found", "body id: unknown"});
+  CheckTally("part", {"part: same name", "part: other case"});
+  RecordCases(long{lists} * kQuestions);
 }
 
 void DeleteFlips(CDspAsmComp& component) {
