@@ -178,6 +178,14 @@ void VisitMembers(List& list, Visit visit) {
   VisitRow(visit, "row 24", list.m_nHost24);
 }
 
+template <class Pair, class Visit>
+  requires std::is_same_v<std::remove_const_t<Pair>, CVekPostListPair> ||
+           std::is_same_v<std::remove_const_t<Pair>, CVekIntPair>
+void VisitMembers(Pair& pair, Visit visit) {
+  visit("first", 0, pair.m_nFirst);
+  visit("second", 0, pair.m_nSecond);
+}
+
 template <class Curve, class Visit>
   requires std::is_same_v<std::remove_const_t<Curve>, CmqTemperatureCurve>
 void VisitMembers(Curve& curve, Visit visit) {
@@ -249,6 +257,22 @@ void VisitMembers(Element& element, Visit visit) {
   }
 }
 
+template <class Vertex, class Visit>
+  requires std::is_same_v<std::remove_const_t<Vertex>, CSTLVertex>
+void VisitMembers(Vertex& vertex, Visit visit) {
+  visit("x", 0, vertex.m_fX);
+  visit("y", 0, vertex.m_fY);
+  visit("z", 0, vertex.m_fZ);
+}
+
+template <class Facet, class Visit>
+  requires std::is_same_v<std::remove_const_t<Facet>, CSTLFacet>
+void VisitMembers(Facet& facet, Visit visit) {
+  visit("normal", 0, facet.m_Normal);
+  visit("count", 0, facet.m_nVertices);
+  visit("vertices", 0, facet.m_vecVertices);
+}
+
 template <class Component, class Visit>
   requires std::is_same_v<std::remove_const_t<Component>, CDspAsmComp>
 void VisitMembers(Component& component, Visit visit) {
@@ -316,6 +340,11 @@ class Snapshooter {
     Put(name, 4 * place + 2, ValueOf(color.Blue()));
     Put(name, 4 * place + 3, ValueOf(color.Alpha()));
   }
+  void operator()(std::string_view name, int place, const CSTLVertex& vertex) {
+    Put(name, 3 * place, ValueOf(vertex.m_fX));
+    Put(name, 3 * place + 1, ValueOf(vertex.m_fY));
+    Put(name, 3 * place + 2, ValueOf(vertex.m_fZ));
+  }
   template <class Element>
   void operator()(std::string_view name, int place, const CArray<Element>& elements) {
     PutCount(name, place, elements.GetSize());
@@ -323,11 +352,12 @@ class Snapshooter {
       PutElement(name, 1000 * place + index + 1, elements.GetAt(index));
     }
   }
-  void operator()(std::string_view name, int place, const std::vector<double>& elements) {
+  template <class Element>
+  void operator()(std::string_view name, int place, const std::vector<Element>& elements) {
     PutCount(name, place, static_cast<int>(elements.size()));
     place *= 1000;
-    for (const double element : elements) {
-      Put(name, ++place, ValueOf(element));
+    for (const Element& element : elements) {
+      (*this)(name, ++place, element);
     }
   }
   void operator()(std::string_view name, int place, const std::map<int, CString>& entries) {
@@ -397,6 +427,11 @@ class Scrambler {
     const auto shade = [this] { return static_cast<float>(m_random.Below(3)) / 2.0F; };
     color = COGLColor(shade(), 0.0F, 1.0F, 1.0F);
   }
+  void operator()(std::string_view, int, CSTLVertex& vertex) {
+    vertex.m_fX = m_random.Float();
+    vertex.m_fY = m_random.Float();
+    vertex.m_fZ = m_random.Float();
+  }
   void operator()(std::string_view, int, CArray<CShellEntityID_FlipData*>&) {}
   template <class Element>
   void operator()(std::string_view name, int place, CArray<Element>& elements) {
@@ -405,9 +440,10 @@ class Scrambler {
       (*this)(name, place, elements.ElementAt(index));
     }
   }
-  void operator()(std::string_view name, int place, std::vector<double>& elements) {
+  template <class Element>
+  void operator()(std::string_view name, int place, std::vector<Element>& elements) {
     elements.resize(static_cast<std::size_t>(m_random.Below(4)));
-    for (double& element : elements) {
+    for (Element& element : elements) {
       (*this)(name, place, element);
     }
   }
