@@ -1,7 +1,8 @@
 // Operations on lists of assembly components, beside a vector of plain components. Two lists are
-// played, so that they are compared and assigned. Flip records are deleted once: by their owners,
-// or at the end, where nobody owns them or an assignment left them behind; a second deletion and
-// a forgotten one end the program by themselves.
+// played, so that they are compared and assigned. An index of a list answers like the list, which
+// is gone by then. Flip records are deleted once: by their owners, or at the end, where nobody owns
+// them or an assignment left them behind; a second deletion and a forgotten one end the program by
+// themselves.
 #include <algorithm>
 #include <climits>
 #include <cstddef>
@@ -10,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include <mqPostCommon/display/assembly_index.h>
 #include <mqPostCommon/display/assembly_list.h>
 
 #include "assembly_model.h"
@@ -77,6 +79,9 @@ class Play {
   const COGLColor& AnyColor() { return kColors[m_input.Below(std::size(kColors))]; }
   /// Inside the list or just outside.
   int AnyIndex() { return m_input.Below(static_cast<int>(Plains().size()) + 2) - 1; }
+  [[nodiscard]] CDspAsmCompIndex IndexOfACopy() const {
+    return CDspAsmCompIndex(CDspAsmCompList(*m_list));
+  }
   bool IsInside(int index) { return index >= 0 && index < static_cast<int>(Plains().size()); }
 
   Plain AnyPlain() {
@@ -213,8 +218,9 @@ void Play::AskIndex() {
   Require(IsInside(index) || (IsRefused([&] { static_cast<void>(m_list->GetAt(index)); }) &&
                               IsRefused([&] { static_cast<void>(m_list->GetAt(index, &value)); })),
           "GetAt outside the list is refused");
-  Require(m_list->GetActiveElemIndex(index, base) == (IsInside(index) ? Wrapped(sum) : 1),
-          "the active index");
+  const int active = IsInside(index) ? Wrapped(sum) : 1;
+  Require(m_list->GetActiveElemIndex(index, base) == active, "the active index");
+  Require(IndexOfACopy().GetActiveElemIndex(index, base) == active, "the active index by an index");
 }
 
 void Play::AskCounts() {
@@ -231,6 +237,7 @@ void Play::AskCounts() {
   Require(m_list->GetPostAvailableCompCount() == std::ranges::count_if(Plains(), &Plain::Counts),
           "the count of components with results");
   Require(m_list->HasPostCompMissing(*m_other) == (isMissing ? 1 : 0), "whether one is missing");
+  Require(IndexOfACopy().GetSize() == static_cast<int>(Plains().size()), "the size of an index");
 }
 
 void Play::AskElement() {
@@ -239,20 +246,25 @@ void Play::AskElement() {
     return one.m_bHidden == 0 && one.m_nFirstElem >= 0 && one.m_nLastElem >= one.m_nFirstElem &&
            one.m_nFirstElem <= element && element <= one.m_nLastElem;
   });
-  constexpr int kUntouched = 12345;
-  int index = kUntouched;
-  const int answer = m_list->GetVisPartIndex_1based(element, &index);
-  Require(answer == (holder < 0 ? 0 : 1), "whether an element is shown");
-  Require(index == (holder < 0 ? kUntouched
-                               : Wrapped(std::int64_t{At(holder).members.m_nVisIndexBase} -
-                                         At(holder).members.m_nFirstElem + element)),
-          "the visible index of an element");
+  const auto ask = [&](const auto& asked) {
+    constexpr int kUntouched = 12345;
+    int index = kUntouched;
+    const int answer = asked.GetVisPartIndex_1based(element, &index);
+    Require(answer == (holder < 0 ? 0 : 1), "whether an element is shown");
+    Require(index == (holder < 0 ? kUntouched
+                                 : Wrapped(std::int64_t{At(holder).members.m_nVisIndexBase} -
+                                           At(holder).members.m_nFirstElem + element)),
+            "the visible index of an element");
+  };
+  ask(*m_list);
+  ask(IndexOfACopy());
 }
 
 void Play::AskBody() {
   const int body = m_input.Below(5);
   const int found = FirstOf([body](const AsmCompMembers& one) { return one.m_nBodyID == body; });
   Require(m_list->GetIndexByBodyID(body) == found, "the index of a body");
+  Require(IndexOfACopy().GetIndexByBodyID(body) == found, "the index of a body by an index");
   Require(m_list->GetPartNameByBodyID(body) ==
                   (found < 0 ? CString() : At(found).members.m_strCompName) &&
               m_list->GetBodyNameByBodyID(body) ==
@@ -289,13 +301,17 @@ void Play::AskNames() {
       indices.push_back(index);
     }
   }
-  std::vector<int> out = {-5};
-  m_list->GetBodyListByPartName(&out, name);
-  Require(out == indices, "the indices of a name");
+  const auto ask = [&](const auto& asked) {
+    std::vector<int> out = {-5};
+    asked.GetBodyListByPartName(&out, name);
+    Require(out == indices, "the indices of a name");
+    Require(asked.IsComponentExistByName(name) == (ofName.values.empty() ? 0 : 1),
+            "whether a name exists");
+  };
+  ask(*m_list);
+  ask(IndexOfACopy());
   Require(AreSame(m_list->GetCompListByComponentName(name), ofName), "the components of a name");
   Require(AreSame(m_list->GetCompListByBodyName(name), ofBody), "the components of a body name");
-  Require(m_list->IsComponentExistByName(name) == (ofName.values.empty() ? 0 : 1),
-          "whether a name exists");
 }
 
 void Play::Rename() {
