@@ -400,8 +400,10 @@ constexpr std::vector<typename Row::Value> MergeRows(const std::vector<const Row
                                                      When condition, typename Row::Value nothing) {
   std::vector<const Row*> merging;
   for (const When pass : {condition, When::Always}) {
-    if (pass == When::Always && Row::kReplacesList && !merging.empty()) {
-      break;
+    if constexpr (Row::kReplacesList) {
+      if (pass == When::Always && !merging.empty()) {
+        break;
+      }
     }
     std::copy_if(rows.begin(), rows.end(), std::back_inserter(merging),
                  [pass](const Row* row) { return row->when == pass; });

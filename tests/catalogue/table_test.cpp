@@ -18,6 +18,7 @@ using ListRow = SequenceRow<int>;
 using enum AnalysisType;
 using ResultType::BeamStress;
 using ResultType::Displacement;
+using ResultType::FactorOfSafety;
 using ResultType::Strain;
 using ResultType::Stress;
 
@@ -297,18 +298,19 @@ TEST(MergedRows, ASequenceUnderAConditionReplacesThePlainOne) {
 
 // clang-format off
 constexpr auto kFirstGroup = std::to_array<Row>({
-    {Static,               Stress, When::Always,   {0, 1},          10},
-    {Static,               Stress, When::BeamMesh, {1},             11},
-    {Frequency | Buckling, Strain, When::Spectral, {0},             12},
+    {Static,               Stress,                  When::Always,   {0, 1},    10},
+    {Static,               Stress,                  When::BeamMesh, {1},       11},
+    {Frequency | Buckling, Strain,                  When::Spectral, {0},       12},
+    {Thermal,              Strain | FactorOfSafety, When::Always,   {0},       13},
 });
 constexpr auto kSecondGroup = std::to_array<Row>({
-    {kAnyStudy,            Stress, When::Always,   {0, 1, 2},       20},
+    {kAnyStudy,            Stress,                  When::Always,   {0, 1, 2}, 20},
 });
 // clang-format on
 
 TEST(BuiltIndexes, AnswerByStudyResultConditionAndComponent) {
   const auto built = BuildIndex(-1, kFirstGroup, kSecondGroup);
-  ComponentIndex<int, 16> index{};
+  ComponentIndex<int, 24> index{};
   ASSERT_LE(built.values.size(), index.values.size());
   index.cells = built.cells;
   std::copy(built.values.begin(), built.values.end(), index.values.begin());
@@ -328,7 +330,10 @@ TEST(BuiltIndexes, AnswerByStudyResultConditionAndComponent) {
       {1,  3, When::Always,                     {},           -1},
       {1,  3, When::Spectral,                   {12},         -1},
       {2,  3, When::Spectral,                   {12},         -1},
-      {3,  3, When::Spectral,                   {},           -1},
+      {3,  3, When::Spectral,                   {13},         -1},
+      {3,  4, When::Always,                     {13},         -1},
+      {3,  5, When::Always,                     {},           -1},
+      {5,  3, When::Spectral,                   {},           -1},
       {1,  2, When::Always,                     {20, 20, 20}, -1},
       {11, 2, When::BeamMesh,                   {20, 20, 20}, -1},
       {-1, 2, When::Always,                     {20, 20, 20}, -1},
@@ -356,9 +361,9 @@ TEST(BuiltIndexes, AnswerByStudyResultConditionAndComponent) {
 
 TEST(BuiltIndexes, KeepEqualListsOnce) {
   // By cells, each list with the nothing behind it: no rows; static stress without and with beams;
-  // the stresses of other studies; the strains of modes.
+  // the stresses of other studies; the strains of modes, and those of a thermal study.
   EXPECT_EQ(BuildIndex(-1, kFirstGroup, kSecondGroup).values,
-            (std::vector<int>{-1, 10, 10, -1, 10, 11, -1, 20, 20, 20, -1, 12, -1}));
+            (std::vector<int>{-1, 10, 10, -1, 10, 11, -1, 20, 20, 20, -1, 12, -1, 13, -1}));
   ListPool<int> pool;
   const ValueList first = pool.Keep({1, 2, 3});
   const ValueList second = pool.Keep({1, 2, 4});
