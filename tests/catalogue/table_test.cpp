@@ -19,6 +19,7 @@ using enum AnalysisType;
 using ResultType::BeamStress;
 using ResultType::Displacement;
 using ResultType::FactorOfSafety;
+using ResultType::ResultType0;
 using ResultType::Strain;
 using ResultType::Stress;
 
@@ -304,7 +305,8 @@ constexpr auto kFirstGroup = std::to_array<Row>({
     {Thermal,              Strain | FactorOfSafety, When::Always,   {0},       13},
 });
 constexpr auto kSecondGroup = std::to_array<Row>({
-    {kAnyStudy,            Stress,                  When::Always,   {0, 1, 2}, 20},
+    {Static | Fatigue, ResultType0 | BeamStress, When::Always, {0},       21},
+    {kAnyStudy,        Stress,                   When::Always, {0, 1, 2}, 20},
 });
 // clang-format on
 
@@ -337,7 +339,13 @@ TEST(BuiltIndexes, AnswerByStudyResultConditionAndComponent) {
       {1,  2, When::Always,                     {20, 20, 20}, -1},
       {11, 2, When::BeamMesh,                   {20, 20, 20}, -1},
       {-1, 2, When::Always,                     {20, 20, 20}, -1},
+      {0,  0, When::Always,                     {21},         -1},
+      {0, 59, When::Always,                     {21},         -1},
+      {7,  0, When::Always,                     {21},         -1},
+      {7, 59, When::Always,                     {21},         -1},
+      {5,  0, When::Always,                     {},           -1},
       {0,  1, When::Always,                     {},           -1},
+      {0, 58, When::Always,                     {},           -1},
       {0, -1, When::Always,                     {},           -1},
   };
   // clang-format on
@@ -360,10 +368,11 @@ TEST(BuiltIndexes, AnswerByStudyResultConditionAndComponent) {
 }
 
 TEST(BuiltIndexes, KeepEqualListsOnce) {
-  // By cells, each list with the nothing behind it: no rows; static stress without and with beams;
-  // the stresses of other studies; the strains of modes, and those of a thermal study.
+  // By cells, each list with the nothing behind it: no rows; static result 0; static stress
+  // without and with beams; the stresses of other studies; the strains of modes, and those of a
+  // thermal study.
   EXPECT_EQ(BuildIndex(-1, kFirstGroup, kSecondGroup).values,
-            (std::vector<int>{-1, 10, 10, -1, 10, 11, -1, 20, 20, 20, -1, 12, -1, 13, -1}));
+            (std::vector<int>{-1, 21, -1, 10, 10, -1, 10, 11, -1, 20, 20, 20, -1, 12, -1, 13, -1}));
   ListPool<int> pool;
   const ValueList first = pool.Keep({1, 2, 3});
   const ValueList second = pool.Keep({1, 2, 4});
