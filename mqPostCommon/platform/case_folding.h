@@ -9,6 +9,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 #include <mqPostCommon/platform/text.h>
 
@@ -22,13 +23,10 @@ struct FoldingRange {
   std::int32_t distance;
 };
 
+/// The ranges behind the first 256 code units, which have a table of their own.
 // clang-format off
 inline constexpr auto kFoldingRanges = std::to_array<FoldingRange>({
 //   first   last    step distance
-    {0x0041, 0x005A, 1,     32},
-    {0x00B5, 0x00B5, 1,    775},
-    {0x00C0, 0x00D6, 1,     32},
-    {0x00D8, 0x00DE, 1,     32},
     {0x0100, 0x012E, 2,      1},
     {0x0132, 0x0136, 2,      1},
     {0x0139, 0x0147, 2,      1},
@@ -224,30 +222,37 @@ static_assert(std::ranges::adjacent_find(kFoldingRanges, [](const auto& left, co
                 return left.last >= right.first;
               }) == kFoldingRanges.end());
 
-/// `FoldCase` as the rows say it.
-constexpr mqChar SearchFolding(mqChar unit) noexcept {
+/// What a code unit folds to by ranges in rising order.
+constexpr mqChar FoldByRanges(std::span<const FoldingRange> ranges, mqChar unit) noexcept {
   const auto range = std::ranges::lower_bound(
-      kFoldingRanges, unit, {},
-      [](const FoldingRange& row) { return static_cast<mqChar>(row.last); });
-  if (range == kFoldingRanges.end() || unit < range->first ||
-      (unit - range->first) % range->step != 0) {
+      ranges, unit, {}, [](const FoldingRange& row) { return static_cast<mqChar>(row.last); });
+  if (range == ranges.end() || unit < range->first || (unit - range->first) % range->step != 0) {
     return unit;
   }
   return static_cast<mqChar>(unit + range->distance);
 }
 
-/// What the code units of most names fold to.
+/// What the first code units fold to, of which most names are made.
 inline constexpr auto kFoldedFirst = [] {
+  // clang-format off
+  constexpr auto kRanges = std::to_array<FoldingRange>({
+  //   first   last    step distance
+      {0x0041, 0x005A, 1,     32},
+      {0x00B5, 0x00B5, 1,    775},
+      {0x00C0, 0x00D6, 1,     32},
+      {0x00D8, 0x00DE, 1,     32},
+  });
+  // clang-format on
   std::array<mqChar, 0x100> folded{};
   for (std::size_t unit = 0; unit < folded.size(); ++unit) {
-    folded[unit] = SearchFolding(static_cast<mqChar>(unit));
+    folded[unit] = FoldByRanges(kRanges, static_cast<mqChar>(unit));
   }
   return folded;
 }();
 
 /// The code unit that stands for `unit` in a comparison without case.
 constexpr mqChar FoldCase(mqChar unit) noexcept {
-  return unit < kFoldedFirst.size() ? kFoldedFirst[unit] : SearchFolding(unit);
+  return unit < kFoldedFirst.size() ? kFoldedFirst[unit] : FoldByRanges(kFoldingRanges, unit);
 }
 
 }  // namespace mqp

@@ -648,9 +648,12 @@ void WalkMaterials(Walk& walk) {
   }
 }
 
-/// The units at both ends of each range and inside.
-std::vector<int> UnitsAtRanges() {
+/// The units that have their folding in a table, and those at both ends of each range and inside.
+std::vector<int> UnitsThatMayFold() {
   std::set<int> units;
+  for (std::size_t unit = 0; unit < kFoldedFirst.size(); ++unit) {
+    units.insert(static_cast<int>(unit));
+  }
   for (const FoldingRange& range : kFoldingRanges) {
     for (int step = -3; step <= 3; ++step) {
       units.insert({range.first + step, range.last + step});
@@ -669,9 +672,9 @@ CmqpMaterialDataList NamesOf(std::span<const int> units) {
   return names;
 }
 
-/// The ranges are in this program as well, and change with those of the library.
+/// Table and ranges are in this program as well, and change with those of the library.
 void AskCaseFolding(Answers& answers) {
-  static const std::vector<int> units = UnitsAtRanges();
+  static const std::vector<int> units = UnitsThatMayFold();
   static const CmqpMaterialDataList names = NamesOf(units);
   std::vector<int> indices;
   answers.Add(names.GetUniqueMaterialList(indices));

@@ -48,7 +48,7 @@ TOLD = ROOT / "build/tables"  # where the library tells its reads
 LIBRARY = "libmqPostCommon.so.0"
 
 SUITES = ("mqCatalogueTests", "mqListsTests", "mqMaterialsTests", "mqParamsTests",
-          "mqDisplayTests", "mqPlatformTests", "mqInterpositionTests")
+          "mqDisplayTests", "mqPlatformTests", "mqInterpositionTests", "mqReferenceTests")
 # A process with several threads cannot be divided in two.
 LEFT_OUT_TESTS = "-NumberAnswers.StayConsistentWhileFourThreadsAskAndTheFlagChanges"
 
@@ -74,6 +74,7 @@ FIRST_TRIES = {
     "kBarIndex": """
         mqCatalogueTests/BarNamesTest.EveryCodeWithoutOptions
         mqCatalogueTests/BarNamesTest.EveryOptionOfEveryList
+        mqCatalogueTests/BarNamesTest.TheNamesOfAFatigueStudyDependOnTheVariantAlone*
         mqInterpositionTests/*""",
     "kBriefIndex": """
         mqCatalogueTests/BriefNamesTest.EveryCode
@@ -86,7 +87,8 @@ FIRST_TRIES = {
     "kCandidateIndex": """
         mqCatalogueTests/ComponentByNameTest.TheFirstCandidateOfEveryCodeThatHasAList
         mqCatalogueTests/ComponentByNameTest.EveryTextOfTheTableInEveryStudyAndResult
-        mqInterpositionTests/*""",
+        mqInterpositionTests/*
+        mqReferenceTests/CatalogueReference.ComponentsByName*""",
     "kResultCandidates": "mqCatalogueTests/ResultTypeByNameTest.* mqInterpositionTests/*",
     "kQuantityIndex": "mqCatalogueTests/UnitType.IsAsListedForEveryCodeOptionAndFlag",
     "kUnitChoices|kUnitNames": """
@@ -97,10 +99,13 @@ FIRST_TRIES = {
     "kSets|kFatigueSetNames": "mqInterpositionTests/* mqListsTests/*",
     "g_strMat.*|kSorted": "mqMaterialsTests/PropertyTables.*",
     "kSIG.*|kStrengths": "mqMaterialsTests/Material.*",
-    "kFoldingRanges": "mqPlatformTests/CaseFolding.*",
+    "kFold.*": "mqPlatformTests/CaseFolding.*",
     'text "a component index.*': "mqDisplayTests/AssemblyList.AnIndexOutsideIsCalledOne",
     'kOfferedNames|text ""Variable.*|text "diu.*':
         "mqParamsTests/EquationPlot.*:EquationEditorList.*",
+    'text "(Frequency|Graph|Damage|Response).*':
+        "mqParamsTests/Graph.TheKindComesFromTheSensorAndTheFlagAndTheFolderFromTheResultType",
+    'text "Variable"': "mqParamsTests/EquationVariable.*",
     'text "[A-Z ].*|text "."': """
         mqParamsTests/*.TheListOfFieldsTellsTheLayout
         mqParamsTests/GraphNames.*:GraphYTitle.*:GraphPlotName.*
