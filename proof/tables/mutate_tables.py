@@ -88,7 +88,7 @@ FIRST_TRIES = {
         mqCatalogueTests/ComponentByNameTest.TheFirstCandidateOfEveryCodeThatHasAList
         mqCatalogueTests/ComponentByNameTest.EveryTextOfTheTableInEveryStudyAndResult
         mqInterpositionTests/*
-        mqReferenceTests/CatalogueReference.ComponentsByName*""",
+        mqCatalogueTests/ComponentByNameTest.TheFirstOfEqualTextsDecides""",
     "kResultCandidates": "mqCatalogueTests/ResultTypeByNameTest.* mqInterpositionTests/*",
     "kQuantityIndex": "mqCatalogueTests/UnitType.IsAsListedForEveryCodeOptionAndFlag",
     "kUnitChoices|kUnitNames": """

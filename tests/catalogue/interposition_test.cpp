@@ -88,6 +88,15 @@ TEST_F(OwnStringTableTest, LookUpsReadIt) {
   EXPECT_EQ(vekPostCommonGetResultTypeByComponentName(MQ_TEXT("DX")), 9999);
 }
 
+// Where both forms of a name lead to the same component, no answer tells which was tried first.
+TEST_F(OwnStringTableTest, BothFormsOfAModeShapeAreAskedForInTheirOrder) {
+  vekPostCommonGetComponentIndexByName(1, 1, 0, MQ_TEXT("none"), 0);
+  EXPECT_EQ(TakeAsked(), (Ids{54578, 54865, 54579, 54866, 54580, 54867, 50341, 54868}));
+  vekPostCommonGetComponentIndexByName(2, 1, 0, MQ_TEXT("none"), 0);
+  EXPECT_EQ(TakeAsked(), (Ids{54578, 54865, 54579, 54866, 54580, 54867, 50341, 54868, 54584, 55269,
+                              54585, 55270, 54586, 55271}));
+}
+
 TEST_F(OwnStringTableTest, ATextIsLoadedAnewForEveryCall) {
   Set(54578, MQ_TEXT("DX: along X"));
   EXPECT_EQ(vekPostCommonGetComponentName(0, 1, 0, 0, 0, 0), MQ_TEXT("DX: along X"));

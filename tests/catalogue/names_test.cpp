@@ -761,7 +761,7 @@ TEST(BarNamesTest, TheNamesOfAFatigueStudyDependOnTheVariantAloneWhateverTheResu
     const ActualFrequencyFlag guard(flag);
     for (const int resultType : kSweptCodes) {
       const BarNames names(Code(Study::Fatigue), resultType);
-      for (const int component : {0, 1, 2, 3, 4, 5}) {
+      for (const int component : {-1, 0, 1, 2, 3, 4, 5, 6, 100}) {
         for (const int meshKind : {0, 4}) {
           for (const int variant : {0, 1}) {
             const Name expected =
