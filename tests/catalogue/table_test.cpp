@@ -1,10 +1,12 @@
 // How rows become an index, on rows of a few values each. What the library's own tables answer is
 // asked elsewhere.
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
