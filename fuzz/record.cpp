@@ -13,10 +13,10 @@
 #include <storage/memory_stream.h>
 #include <mqPostCommon/params/equation_plot.h>
 #include <mqPostCommon/params/graph.h>
-#include <mqPostCommon/params/stream/strings.h>
 
 #include "input.h"
 #include "params/record_test_support.h"
+#include "plain_text.h"
 
 namespace mqp::fuzz {
 namespace {
@@ -33,7 +33,11 @@ struct FieldReader {
   IStream& stream;
   void operator()(int* value) const { stream.Read(value, 4, nullptr); }
   void operator()(double* value) const { stream.Read(value, 8, nullptr); }
-  void operator()(CString* value) const { CStringReadFromStream(&stream, value); }
+  void operator()(CString* value) const {
+    Units text(value->View());
+    ReadTextPlainly(stream, text);
+    *value = CString(mqTextView(text));
+  }
 };
 
 bool ShowsWhatHasAUnit(const CmqPostGraphParam& graph) {

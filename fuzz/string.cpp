@@ -9,36 +9,12 @@
 #include <mqPostCommon/params/stream/strings.h>
 
 #include "input.h"
+#include "plain_text.h"
 
 namespace mqp::fuzz {
 namespace {
 
 using host::MemoryStream;
-using Units = std::basic_string<mqChar>;
-
-constexpr std::size_t kMostUnits = 1024;
-
-struct Reading {
-  int answer;
-  Units text;
-  std::size_t taken;  ///< bytes of the stream
-};
-
-Reading ReadPlainly(const ByteString& bytes, const Units& before) {
-  const auto at = [&bytes](std::size_t place) {
-    return place < bytes.size() ? std::to_integer<unsigned>(bytes[place]) : 0U;
-  };
-  const auto count = static_cast<int>(at(0) | at(1) << 8 | at(2) << 16 | at(3) << 24);
-  if (count < 1) {
-    return {0, before, std::min<std::size_t>(bytes.size(), 4)};
-  }
-  const std::size_t units = std::min(static_cast<std::size_t>(count), kMostUnits);
-  Units text;
-  for (std::size_t unit = 0; unit < units; ++unit) {
-    text += static_cast<mqChar>(at(4 + 2 * unit) | at(5 + 2 * unit) << 8);
-  }
-  return {1, text.substr(0, text.find(mqChar{0})), std::min(bytes.size(), 4 + 2 * units)};
-}
 
 ByteString LayOut(Units text) {
   text.resize(std::min(text.size(), kMostUnits));
@@ -58,10 +34,12 @@ ByteString LayOut(Units text) {
 void CheckReading(const ByteString& bytes, const CString& before) {
   CString text = before;
   MemoryStream stream(bytes);
-  const Reading expected = ReadPlainly(bytes, Units(before.View()));
-  Require(CStringReadFromStream(&stream, &text) == expected.answer, "the answer of the reader");
-  Require(text.View() == expected.text, "the text that is read");
-  Require(stream.Position() == expected.taken, "the bytes that the reader takes");
+  MemoryStream plainStream(bytes);
+  Units expected(before.View());
+  const int answer = ReadTextPlainly(plainStream, expected);
+  Require(CStringReadFromStream(&stream, &text) == answer, "the answer of the reader");
+  Require(text.View() == expected, "the text that is read");
+  Require(stream.Position() == plainStream.Position(), "the bytes that the reader takes");
 }
 
 void CheckWriting(CString text) {

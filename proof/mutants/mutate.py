@@ -416,9 +416,18 @@ def choose(mutants, options):
     return chosen + sample(others, options.sample, options.seed)
 
 
+def require_files_of_gates(paths):
+    """A gate without a file would hold for ever."""
+    for name, _, patterns in GATES:
+        for pattern in patterns:
+            if not any(fnmatch(path, pattern) for path in paths):
+                sys.exit(f"mutate.py: no file of the {name} is called {pattern}")
+
+
 def main():
     options = parse()
     texts = {path: (ROOT / path).read_text(encoding="utf-8") for path in sources()}
+    require_files_of_gates(texts)
     every = [mutant for path in texts for mutant in operators.mutants_of(path, texts[path])]
     equivalents = Equivalents(texts)
     unused = equivalents.unused(every)

@@ -19,7 +19,8 @@ LEFT_OUT = (
     (r"_ZT[VIS]|DW\.ref\.", "virtual tables and type names"),
     (r"_ZZ?NK?St", "tables of the standard library"),
 )
-STANDARD_TEXT = re.compile(r"/usr/|vector::|basic_string|.*std::|.*\b__\w|.*this->|.* <= size\(\)")
+# A byte of the number before it may stand in front of a text.
+STANDARD_TEXT = re.compile(r".*(/usr/|vector::|basic_string|std::|\b__\w|this->| <= size\(\))")
 
 Leaf = collections.namedtuple("Leaf", "offset width path neighbour")
 Swap = collections.namedtuple("Swap", "offset width path")
