@@ -12,6 +12,7 @@
 #include <mqPostCommon/platform/case_folding.h>
 #include <mqPostCommon/platform/text.h>
 #include <mqPostCommon/platform/text_format.h>
+#include <mqPostCommon/platform/text_store.h>
 
 /// A string of UTF-16 code units that owns its text. Positions and lengths count code units and
 /// are 0-based. Zero units inside the text count like any other, except in `operator const
@@ -31,50 +32,46 @@ class CString {
   explicit CString(mqTextView text) : m_text(text) {}
 
   CString& operator=(const mqChar* text) {
-    m_text = text == nullptr ? mqTextView() : mqTextView(text);
-    return *this;
+    return *this = text == nullptr ? mqTextView() : mqTextView(text);
   }
 
   /// Takes the room that is there when it is enough, so that nothing is allocated.
   CString& operator=(mqTextView text) {
-    m_text = text;
+    m_text.Assign(text);
     return *this;
   }
 
-  [[nodiscard]] int GetLength() const noexcept { return static_cast<int>(m_text.size()); }
-  [[nodiscard]] bool IsEmpty() const noexcept { return m_text.empty(); }
-  void Empty() noexcept { m_text.clear(); }
+  [[nodiscard]] int GetLength() const noexcept { return static_cast<int>(m_text.Length()); }
+  [[nodiscard]] bool IsEmpty() const noexcept { return m_text.Length() == 0; }
+  void Empty() noexcept { m_text.Erase(0, m_text.Length()); }
 
   /// The code unit at a position from 0 to the length; at the length it is 0.
-  [[nodiscard]] mqChar GetAt(int position) const { return m_text[Count(position)]; }
+  [[nodiscard]] mqChar GetAt(int position) const { return m_text.Units()[Count(position)]; }
   /// Takes every integer as it is: the subscript of `operator const mqChar*` never competes.
   template <std::integral Index>
   [[nodiscard]] mqChar operator[](Index position) const {
     return GetAt(static_cast<int>(position));
   }
   /// Replaces the code unit at a position below the length.
-  void SetAt(int position, mqChar unit) { m_text[Count(position)] = unit; }
+  void SetAt(int position, mqChar unit) { m_text.Units()[Count(position)] = unit; }
 
   /// The text with a terminating zero; valid until the string changes.
-  [[nodiscard]] const mqChar* GetString() const noexcept { return m_text.c_str(); }
+  [[nodiscard]] const mqChar* GetString() const noexcept { return m_text.Units(); }
   operator const mqChar*() const noexcept {  // NOLINT(google-explicit-constructor)
     return GetString();
   }
   /// The text as a view; valid until the string changes.
-  [[nodiscard]] mqTextView View() const noexcept { return m_text; }
+  [[nodiscard]] mqTextView View() const noexcept { return m_text.View(); }
 
-  CString& operator+=(const CString& text) {
-    m_text += text.m_text;
-    return *this;
-  }
+  CString& operator+=(const CString& text) { return *this += text.View(); }
   CString& operator+=(const mqChar* text) {
-    m_text += CString(text).m_text;
+    return *this += text == nullptr ? mqTextView() : mqTextView(text);
+  }
+  CString& operator+=(mqTextView text) {
+    m_text.Append(text);
     return *this;
   }
-  CString& operator+=(mqChar unit) {
-    m_text += unit;
-    return *this;
-  }
+  CString& operator+=(mqChar unit) { return *this += mqTextView(&unit, 1); }
   friend CString operator+(CString left, const CString& right) { return std::move(left += right); }
   friend CString operator+(CString left, const mqChar* right) { return std::move(left += right); }
   friend CString operator+(const mqChar* left, const CString& right) {
@@ -92,15 +89,16 @@ class CString {
   }
   /// `Compare` after folding case unit by unit (`mqp::FoldCase`), in every locale alike.
   [[nodiscard]] int CompareNoCase(mqTextView other) const noexcept {
-    const std::size_t common = std::min(m_text.size(), other.size());
+    const mqTextView text = View();
+    const std::size_t common = std::min(text.size(), other.size());
     for (std::size_t position = 0; position < common; ++position) {
-      const mqChar left = mqp::FoldCase(m_text[position]);
+      const mqChar left = mqp::FoldCase(text[position]);
       const mqChar right = mqp::FoldCase(other[position]);
       if (left != right) {
         return left < right ? -1 : 1;
       }
     }
-    return m_text.size() == other.size() ? 0 : (m_text.size() < other.size() ? -1 : 1);
+    return text.size() == other.size() ? 0 : (text.size() < other.size() ? -1 : 1);
   }
   [[nodiscard]] int CompareNoCase(const CString& other) const noexcept {
     return CompareNoCase(other.View());
@@ -109,7 +107,7 @@ class CString {
     return CompareNoCase(other == nullptr ? mqTextView() : mqTextView(other));
   }
   friend bool operator==(const CString& left, const CString& right) noexcept {
-    return left.m_text == right.m_text;
+    return left.View() == right.View();
   }
   friend bool operator==(const CString& left, const mqChar* right) noexcept {
     return left.Compare(right) == 0;
@@ -142,15 +140,15 @@ class CString {
   [[nodiscard]] CString Left(int count) const { return CString(View().substr(0, Count(count))); }
   /// The last `count` code units, the whole text if it is shorter, nothing below 0.
   [[nodiscard]] CString Right(int count) const {
-    const std::size_t kept = std::min(m_text.size(), Count(count));
-    return CString(View().substr(m_text.size() - kept));
+    const std::size_t kept = std::min(m_text.Length(), Count(count));
+    return CString(View().substr(m_text.Length() - kept));
   }
   /// `count` code units from `first`, as far as the text has them; negative arguments count as 0.
   [[nodiscard]] CString Mid(int first, int count) const {
-    return CString(View().substr(std::min(m_text.size(), Count(first)), Count(count)));
+    return CString(View().substr(std::min(m_text.Length(), Count(first)), Count(count)));
   }
   [[nodiscard]] CString Mid(int first) const {
-    return CString(View().substr(std::min(m_text.size(), Count(first))));
+    return CString(View().substr(std::min(m_text.Length(), Count(first))));
   }
 
   /// Removes white space (`IsSpace`) at both ends, at the left, at the right.
@@ -179,52 +177,59 @@ class CString {
     if (replaced == 0) {
       return 0;
     }
-    std::basic_string<mqChar> result;
-    result.reserve(m_text.size() - Count(replaced) * old.m_text.size() +
-                   Count(replaced) * replacement.m_text.size());
-    std::size_t done = 0;
+    CString result;
+    mqTextView rest = View();
     for (int left = replaced; left > 0; --left) {
-      const std::size_t found = m_text.find(old.m_text, done);
-      result.append(m_text, done, found - done).append(replacement.m_text);
-      done = found + old.m_text.size();
+      const std::size_t found = rest.find(old.View());
+      result += rest.substr(0, found);
+      result += replacement;
+      rest.remove_prefix(found + old.m_text.Length());
     }
-    m_text = std::move(result.append(m_text, done));
+    result += rest;
+    *this = std::move(result);
     return replaced;
   }
   /// The same for code units; replacing one by itself counts as none.
   int Replace(mqChar old, mqChar replacement) {
     int replaced = 0;
-    for (mqChar& unit : m_text) {
-      if (unit == old && old != replacement) {
-        unit = replacement;
+    for (int position = 0; position < GetLength(); ++position) {
+      if (GetAt(position) == old && old != replacement) {
+        SetAt(position, replacement);
         ++replaced;
       }
     }
     return replaced;
   }
   /// Removes every occurrence of a code unit and returns how many there were.
-  int Remove(mqChar unit) { return static_cast<int>(std::erase(m_text, unit)); }
+  int Remove(mqChar unit) {
+    mqChar* const end = m_text.Units() + m_text.Length();
+    const auto removed = end - std::remove(m_text.Units(), end, unit);
+    m_text.Erase(m_text.Length() - static_cast<std::size_t>(removed), m_text.Length());
+    return static_cast<int>(removed);
+  }
   /// Inserts at a position, clipped to the text; returns the new length.
   int Insert(int position, const CString& text) {
-    m_text.insert(std::min(m_text.size(), Count(position)), text.m_text);
+    const int place = std::min(GetLength(), position);
+    *this = Left(place) + text + Mid(place);
     return GetLength();
   }
   int Insert(int position, mqChar unit) { return Insert(position, CString(unit)); }
   /// Deletes `count` code units from `first`, as far as the text has them; negative arguments
   /// count as 0. Returns the new length.
   int Delete(int first, int count = 1) {
-    m_text.erase(std::min(m_text.size(), Count(first)), Count(count));
+    const std::size_t begin = std::min(m_text.Length(), Count(first));
+    m_text.Erase(begin, begin + std::min(m_text.Length() - begin, Count(count)));
     return GetLength();
   }
 
   /// Replaces the text by a formatted one; see `mqp::FormatText` for the conversions.
   template <class... Arguments>
   void Format(const mqChar* format, const Arguments&... arguments) {
-    m_text = mqp::FormatText(format, {mqp::FormatArgument(arguments)...});
+    *this = mqTextView(mqp::FormatText(format, {mqp::FormatArgument(arguments)...}));
   }
   template <class... Arguments>
   void AppendFormat(const mqChar* format, const Arguments&... arguments) {
-    m_text += mqp::FormatText(format, {mqp::FormatArgument(arguments)...});
+    *this += mqTextView(mqp::FormatText(format, {mqp::FormatArgument(arguments)...}));
   }
 
   /// The white space that the `Trim` functions remove: the code units with Unicode's property
@@ -260,28 +265,30 @@ class CString {
   };
   template <class Predicate>
   [[nodiscard]] std::size_t CountLeading(Predicate matches) const {
+    const mqTextView text = View();
     std::size_t count = 0;
-    while (count < m_text.size() && matches(m_text[count])) {
+    while (count < text.size() && matches(text[count])) {
       ++count;
     }
     return count;
   }
   template <class Predicate>
   [[nodiscard]] std::size_t CountTrailing(Predicate matches) const {
+    const mqTextView text = View();
     std::size_t count = 0;
-    while (count < m_text.size() && matches(m_text[m_text.size() - 1 - count])) {
+    while (count < text.size() && matches(text[text.size() - 1 - count])) {
       ++count;
     }
     return count;
   }
   CString& DropLeft(std::size_t count) {
-    m_text.erase(0, count);
+    m_text.Erase(0, count);
     return *this;
   }
   CString& DropRight(std::size_t count) {
-    m_text.resize(m_text.size() - count);
+    m_text.Erase(m_text.Length() - count, m_text.Length());
     return *this;
   }
 
-  std::basic_string<mqChar> m_text;
+  mqp::TextStore m_text;
 };

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <mqCommFuncs/string_table.h>
 
 #include "faults/allocations.h"
 
@@ -162,14 +163,22 @@ class AllocationFailures : public testing::Test {
   void SetUp() override { RequireLibraryWatched(); }
 };
 
-/// The same for operations that load display texts.
+/// The same for operations that load display texts, which are then longer than a string has room
+/// for.
 class TextAllocationFailures : public AllocationFailures {
  protected:
   void SetUp() override {
     AllocationFailures::SetUp();
+    for (const host::StringTableEntry& entry : host::BuiltInTexts()) {
+      host::ReplaceText(entry.id, CString(entry.text) + CString(MQ_TEXT('x'), 50));
+    }
     if (!IsSkipped()) {
       RequireStringTableWatched();
     }
+  }
+  void TearDown() override {
+    host::UseBuiltInTexts();
+    AllocationFailures::TearDown();
   }
 };
 

@@ -115,10 +115,10 @@ bool IsLibraryWatched() {
 }
 
 bool IsStringTableWatched() {
-  constexpr UINT kLongText = 54600;
+  constexpr UINT kText = 54600;
   const long before = g_counts.allocations;
   CString text;
-  mqpLoadString(text, kLongText);
+  mqpLoadString(text, kText);
   return g_counts.allocations != before;
 }
 

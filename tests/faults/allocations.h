@@ -68,6 +68,7 @@ Outcome RunWith(Refusals refusals, Operation&& operation) {
 /// memory than that of this program; fails anywhere else where that is not under watch. An
 /// instrument says so by the environment variable MQ_INSTRUMENTED.
 void RequireLibraryWatched();
+/// Asked while every display text is too long for a string's own room.
 void RequireStringTableWatched();
 
 }  // namespace mqp::test

@@ -1,6 +1,7 @@
 // Memory runs out while the catalogue is asked for names and lists.
 
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <mqPostCommon/catalogue/components.h>
@@ -22,26 +23,35 @@ const Subject<CString> kAnswer = {"catalogue", [] { return CString(MQ_TEXT("befo
                                   [] { return CString(MQ_TEXT("SX: stress along X")); },
                                   [](const CString& text) { return Show(text); }};
 
-TEST_F(TextAllocationFailures, InTheNamesOfTheCatalogue) {
+/// The names of the catalogue, which take memory or not.
+std::vector<Operation<CString>> Names(Guarantee guarantee) {
   // clang-format off
-  Try(kAnswer, {{
-      {"result name",           kStrong, [](CString& name, CString&) { name = vekPostCommonGetResultName(1); }},
-      {"component name",        kStrong, [](CString& name, CString&) { name = vekPostCommonGetComponentName(0, 2, 0, 0, 0, 0); }},
-      {"name on a bar",         kStrong, [](CString& name, CString&) { name = vekPostCommonGetComponentNameBar(0, 1, 0, 4, 0, 0); }},
-      {"name on a bar, cut",    kStrong, [](CString& name, CString&) { name = vekPostCommonGetComponentNameBar(7, 51, 0, 0, 0, 0); }},
-      {"short name",            kStrong, [](CString& name, CString&) { name = vekPostCommonGetComponentNameShort(0, 1, 0, 4); }},
-      {"brief name",            kStrong, [](CString& name, CString&) { name = vekPostCommonGetComponentNameBrief(0, 1, 0, 3); }},
-      {"name in a report",      kStrong, [](CString& name, CString&) { name = vekPostCommonGetGraphNameForReport(8, 1, 0, 0); }},
-      {"component by its name", kStrong, [](CString&, CString& other) { Use(vekPostCommonGetComponentIndexByName(0, 2, 0, other, 1)); }},
-      {"result by its name",    kStrong, [](CString&, CString& other) { Use(vekPostCommonGetResultTypeByComponentName(other)); }},
-  }});
+  return {
+      {"result name",           guarantee, [](CString& name, CString&) { name = vekPostCommonGetResultName(1); }},
+      {"component name",        guarantee, [](CString& name, CString&) { name = vekPostCommonGetComponentName(0, 2, 0, 0, 0, 0); }},
+      {"name on a bar",         guarantee, [](CString& name, CString&) { name = vekPostCommonGetComponentNameBar(0, 1, 0, 4, 0, 0); }},
+      {"name on a bar, cut",    guarantee, [](CString& name, CString&) { name = vekPostCommonGetComponentNameBar(7, 51, 0, 0, 0, 0); }},
+      {"short name",            guarantee, [](CString& name, CString&) { name = vekPostCommonGetComponentNameShort(0, 1, 0, 4); }},
+      {"brief name",            guarantee, [](CString& name, CString&) { name = vekPostCommonGetComponentNameBrief(0, 1, 0, 3); }},
+      {"name in a report",      guarantee, [](CString& name, CString&) { name = vekPostCommonGetGraphNameForReport(8, 1, 0, 0); }},
+      {"component by its name", guarantee, [](CString&, CString& other) { Use(vekPostCommonGetComponentIndexByName(0, 2, 0, other, 1)); }},
+      {"result by its name",    guarantee, [](CString&, CString& other) { Use(vekPostCommonGetResultTypeByComponentName(other)); }},
+  };
   // clang-format on
+}
+
+TEST_F(TextAllocationFailures, InTheNamesOfTheCatalogue) {
+  Try(kAnswer, {Names(kStrong)});
+}
+
+TEST_F(AllocationFailures, NeverInTheNamesOfTheBuiltInTable) {
+  Try(kAnswer, {Names(kNeverFails)});
 }
 
 TEST_F(AllocationFailures, InTheUnitsOfTheCatalogue) {
   // clang-format off
   Try(kAnswer, {{
-      {"unit name",        kStrong,     [](CString& name, CString&) { name = vekPostCommonGetUnitName(21, 0); }},
+      {"unit name",        kNeverFails, [](CString& name, CString&) { name = vekPostCommonGetUnitName(21, 0); }},
       {"unknown unit",     kNeverFails, [](CString& name, CString&) { name = vekPostCommonGetUnitName(9999, 0); }},
   }});
   // clang-format on

@@ -16,8 +16,8 @@
 namespace mqp::test {
 namespace {
 
-/// A variable takes its members, its default name and a node of its list, well below this.
-constexpr std::size_t kBytesOfAVariable = 128;
+/// A variable takes its members and a node of its list, below this.
+constexpr std::size_t kBytesOfAVariable = 176;
 constexpr int kMostVariables = 65536;
 /// What a text of 1024 units takes with its terminator, rounded up.
 constexpr std::size_t kBytesOfAText = 2064;

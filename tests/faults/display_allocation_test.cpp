@@ -26,8 +26,10 @@ using Components = CDspAsmCompList;
 Component ComponentOf(int number, int records) {
   Component component(number, 10 * number, 10 * number + 9,
                       COGLColor(static_cast<float>(number), 0.0F, 0.0F, 1.0F), 0);
-  component.m_strCompName.Format(MQ_TEXT("Part with the number %d"), number);
-  component.m_strBodyName.Format(MQ_TEXT("Body with the number %d"), number);
+  component.m_strCompName.Format(MQ_TEXT("Part with the number %d and a name that is long"),
+                                 number);
+  component.m_strBodyName.Format(MQ_TEXT("Body with the number %d and a name that is long"),
+                                 number);
   component.m_strExtra = CString(MQ_TEXT('e'), 10 * number);
   component.m_nBodyID = number;
   component.m_bOwnsMeshData = records > 0 ? 1 : 0;

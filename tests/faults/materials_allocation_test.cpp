@@ -68,10 +68,10 @@ Material MaterialOf(const CString& name, int points) {
   return material;
 }
 Material Steel() {
-  return MaterialOf(MQ_TEXT("Alloy steel"), 2);
+  return MaterialOf(MQ_TEXT("A steel with more alloying elements than usual"), 2);
 }
 Material Aluminium() {
-  return MaterialOf(MQ_TEXT("An aluminium of the seventh series"), 5);
+  return MaterialOf(MQ_TEXT("An aluminium of the seventh series, heat-treated twice"), 5);
 }
 
 std::string DescribeMaterial(const Material& material) {
@@ -100,7 +100,7 @@ Materials ListOf(int count) {
   Materials list;
   for (int place = 0; place < count; ++place) {
     CString name;
-    name.Format(MQ_TEXT("Material with the number %d"), place);
+    name.Format(MQ_TEXT("Material with the number %d and a name that is long"), place);
     list.Add(MaterialOf(name, place + 1));
   }
   list.m_arrMaterials.FreeExtra();

@@ -20,18 +20,19 @@ constexpr Guarantee kStrong = Guarantee::Strong;
 constexpr Guarantee kNeverFails = Guarantee::NeverFails;
 
 /// Too long to lie in the string itself.
-constexpr const mqChar* kLong = MQ_TEXT("a text that needs memory of its own");
+constexpr const mqChar* kLong =
+    MQ_TEXT("a text that needs memory of its own, longer than names are");
 
 TEST_F(AllocationFailures, InAString) {
   using Text = CString;
   const Subject<Text> subject = {
-      "CString", [] { return Text(MQ_TEXT("  short  ")); },
-      [] { return Text(MQ_TEXT("another text that needs memory of its own")); },
+      "CString", [] { return Text(MQ_TEXT("  a text that lies in the string  ")); },
+      [] { return Text(MQ_TEXT("another text that needs memory of its own, longer than names")); },
       [](const Text& text) { return Show(text); }};
   // clang-format off
   Try(subject, {ValueOperations<Text>(kStrong), {
       {"made of a zero-terminated text", kStrong, [](Text&, Text&) { const Text made(kLong); }},
-      {"made of a counted text",         kStrong, [](Text&, Text&) { const Text made(kLong, 20); }},
+      {"made of a counted text",         kStrong, [](Text&, Text&) { const Text made(kLong, 50); }},
       {"made of a repeated unit",        kStrong, [](Text&, Text&) { const Text made(MQ_TEXT('x'), 100); }},
       {"made of a view",                 kStrong, [](Text&, Text& other) { const Text made(other.View()); }},
       {"= text",             kStrong,     [](Text& text, Text&) { text = kLong; }},
@@ -45,17 +46,17 @@ TEST_F(AllocationFailures, InAString) {
       {"text + string",      kStrong,     [](Text& text, Text&) { const Text sum = kLong + text; }},
       {"string + unit",      kStrong,     [](Text&, Text& other) { const Text sum = other + MQ_TEXT('x'); }},
       {"unit + string",      kStrong,     [](Text&, Text& other) { const Text sum = MQ_TEXT('x') + other; }},
-      {"Left",               kStrong,     [](Text&, Text& other) { const Text part = other.Left(20); }},
-      {"Right",              kStrong,     [](Text&, Text& other) { const Text part = other.Right(20); }},
+      {"Left",               kStrong,     [](Text&, Text& other) { const Text part = other.Left(50); }},
+      {"Right",              kStrong,     [](Text&, Text& other) { const Text part = other.Right(50); }},
       {"Mid",                kStrong,     [](Text&, Text& other) { const Text part = other.Mid(2); }},
-      {"Mid, counted",       kStrong,     [](Text&, Text& other) { const Text part = other.Mid(2, 20); }},
-      {"Replace",            kStrong,     [](Text& text, Text& other) { text.Replace(CString(MQ_TEXT("o")), other); }},
+      {"Mid, counted",       kStrong,     [](Text&, Text& other) { const Text part = other.Mid(2, 50); }},
+      {"Replace",            kStrong,     [](Text& text, Text& other) { text.Replace(CString(MQ_TEXT("e")), other); }},
       {"Insert",             kStrong,     [](Text& text, Text& other) { text.Insert(3, other); }},
       {"Insert itself",      kStrong,     [](Text& text, Text&) { text.Insert(3, text); }},
       {"Format",             kStrong,     [](Text& text, Text& other) { text.Format(MQ_TEXT("%s %030d %.20f"), other.GetString(), 7, 1.5); }},
       {"Format of itself",   kStrong,     [](Text& text, Text&) { text.Format(MQ_TEXT("%s%s%s%s"), text.GetString(), text.GetString(), text.GetString(), text.GetString()); }},
       {"AppendFormat",       kStrong,     [](Text& text, Text& other) { text.AppendFormat(MQ_TEXT("%s %x"), other.GetString(), -1); }},
-      {"Trim of long units", kStrong,     [](Text& text, Text&) { text.Trim(MQ_TEXT(" 0123456789abcdef")); }},
+      {"Trim of long units", kStrong,     [](Text& text, Text&) { text.Trim(MQ_TEXT(" 0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKL")); }},
       {"Replace by nothing", kNeverFails, [](Text& text, Text& other) { text.Replace(other, other); }},
       {"Replace units",      kNeverFails, [](Text& text, Text&) { text.Replace(MQ_TEXT('o'), MQ_TEXT('u')); }},
       {"Remove",             kNeverFails, [](Text&, Text& other) { other.Remove(MQ_TEXT('e')); }},
@@ -85,7 +86,7 @@ Array Texts(int size) {
   Array array;
   for (int number = 0; number < size; ++number) {
     CString text;
-    text.Format(MQ_TEXT("text number %d, which is long"), number);
+    text.Format(MQ_TEXT("text number %d, which is longer than any display name"), number);
     array.Add(text);
   }
   array.FreeExtra();
@@ -166,7 +167,7 @@ TEST_F(AllocationFailures, InAnArrayOfElementsThatAreCopiedToTheirPlaces) {
     Array array;
     for (int number = 0; number < size; ++number) {
       CopiedText element;
-      element.text.Format(MQ_TEXT("text number %d, which is long"), number);
+      element.text.Format(MQ_TEXT("text number %d, which is longer than any display name"), number);
       array.Add(element);
     }
     array.FreeExtra();
@@ -188,7 +189,7 @@ CStringList StringList(int size) {
   CStringList list;
   for (int number = 0; number < size; ++number) {
     CString text;
-    text.Format(MQ_TEXT("text number %d, which is long"), number);
+    text.Format(MQ_TEXT("text number %d, which is longer than any display name"), number);
     list.AddTail(text);
   }
   return list;

@@ -370,6 +370,12 @@ TEST_P(FullNames, AreFoundByTheirSymbolAlone) {
   }
 }
 
+TEST_P(FullNames, LieInAStringWithoutMemoryOfTheirOwn) {
+  for (const UINT id : Expand(kIds)) {
+    EXPECT_LE(Load(id).GetLength(), 43) << "id " << id << ": " << Show(Load(id));
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(EachLanguage, FullNames, testing::Values(nullptr, "de", "en_XA"),
                          [](const auto& language) {
                            return language.param == nullptr ? "en" : language.param;

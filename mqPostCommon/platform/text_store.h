@@ -1,0 +1,117 @@
+/// \file
+/// The units of a `CString`.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include <mqPostCommon/platform/text.h>
+
+namespace mqp {
+
+/// Code units that lie behind each other, and a zero behind the last one. As many as a display name
+/// has lie in the object itself, so that a name is returned without an allocation; more lie in
+/// memory of their own, and stay there when the text becomes shorter.
+///
+/// A function that needs memory throws `std::bad_alloc` when there is none, and the text is as it
+/// was. The texts handed in may be parts of this one.
+class TextStore {
+ public:
+  /// The longest text without an allocation.
+  static constexpr std::size_t kOwnRoom = 43;
+
+  TextStore() noexcept { Terminate(0); }
+  explicit TextStore(mqTextView text) : TextStore(Room{text.size()}) { Append(text); }
+  TextStore(std::size_t count, mqChar unit) : TextStore(Room{count}) {
+    std::fill_n(m_units, count, unit);
+    Terminate(count);
+  }
+  TextStore(const TextStore& other) : TextStore(other.View()) {}
+  TextStore(TextStore&& other) noexcept { Take(other); }
+  TextStore& operator=(const TextStore& other) {
+    Assign(other.View());
+    return *this;
+  }
+  TextStore& operator=(TextStore&& other) noexcept {
+    if (this != &other) {
+      Release();
+      Take(other);
+    }
+    return *this;
+  }
+  ~TextStore() { Release(); }
+
+  [[nodiscard]] mqTextView View() const noexcept { return {m_units, m_length}; }
+  [[nodiscard]] const mqChar* Units() const noexcept { return m_units; }
+  [[nodiscard]] mqChar* Units() noexcept { return m_units; }
+  [[nodiscard]] std::size_t Length() const noexcept { return m_length; }
+
+  /// Allocates only a text that is longer than any before it.
+  void Assign(mqTextView text) {
+    if (text.size() > m_room) {
+      *this = TextStore(text);
+      return;
+    }
+    std::char_traits<mqChar>::move(m_units, text.data(), text.size());
+    Terminate(text.size());
+  }
+  /// Appending again and again allocates as often as the length doubles.
+  void Append(mqTextView text) {
+    const std::size_t length = m_length + text.size();
+    if (length > m_room) {
+      TextStore longer(Room{std::max(length, 2 * m_room)});
+      longer.Append(View());
+      longer.Append(text);
+      *this = std::move(longer);
+      return;
+    }
+    std::copy_n(text.data(), text.size(), m_units + m_length);
+    Terminate(length);
+  }
+  /// Removes the units from `first` up to `last`, which the text has.
+  void Erase(std::size_t first, std::size_t last) noexcept {
+    Terminate(static_cast<std::size_t>(
+        std::copy(m_units + last, m_units + m_length, m_units + first) - m_units));
+  }
+
+ private:
+  struct Room {
+    std::size_t units;
+  };
+  /// Empty, with room for so many units.
+  explicit TextStore(Room room) {
+    if (room.units > kOwnRoom) {
+      m_units = new mqChar[room.units + 1];
+      m_room = room.units;
+    }
+    Terminate(0);
+  }
+  void Terminate(std::size_t length) noexcept {
+    m_length = length;
+    m_units[length] = 0;
+  }
+  /// From another one, which is empty then; of this one nothing is kept.
+  void Take(TextStore& other) noexcept {
+    if (other.m_units == other.m_own) {
+      m_units = std::copy_n(other.m_own, other.m_length, m_own) - other.m_length;
+    } else {
+      m_units = std::exchange(other.m_units, other.m_own);
+    }
+    m_room = std::exchange(other.m_room, kOwnRoom);
+    Terminate(other.m_length);
+    other.Terminate(0);
+  }
+  void Release() noexcept {
+    if (m_units != m_own) {
+      delete[] m_units;
+    }
+  }
+
+  mqChar* m_units = m_own;
+  std::size_t m_length;
+  std::size_t m_room = kOwnRoom;
+  mqChar m_own[kOwnRoom + 1];
+};
+
+}  // namespace mqp
