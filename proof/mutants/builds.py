@@ -235,16 +235,19 @@ class Preset:
                     "-lgtest", "-lgtest_main", "-lpthread", f"-Wl,-rpath,{bin_folder}"])
         return program
 
-    def test(self, suite, program, library, slow, fault):
+    def test(self, suite, program, library, slow, fault, marks):
         """Runs the fast or the slow tests of a suite. Says what noticed the fault, or nothing.
 
-        `fault` is the number of the one that is switched on where there are many.
+        `fault` is the number of the one that is switched on where there are many; `marks` is the
+        file that takes down the bodies with faults that were reached.
         """
         self.time(suite)
         names = ":".join(self.slow[suite])
         if slow and not (names and self.runs_slow):
             return None
         env = dict(os.environ, MQ_FAULT=str(fault), ASAN_OPTIONS="hard_rss_limit_mb=3000", UBSAN_OPTIONS="print_stacktrace=0")
+        if marks:
+            env["MQ_REACHED"] = str(marks)
         if library:
             env["LD_LIBRARY_PATH"] = str(library)
         code, output = run([str(program or self.folder / "bin" / suite), "--gtest_brief=1",

@@ -3,7 +3,9 @@
 The body of a function stands there once for each of its faults and once without any, the
 initializer of a member likewise. What the compiler evaluates is without a fault. So a fault that a
 test notices is killed as it would be alone, and in a function one that the compiler refuses on its
-own lines is refused as it would be alone. Everything else is left to be tried alone.
+own lines is refused as it would be alone. Everything else is left to be tried alone, and so are the
+faults in bodies that a program without a fault did not reach: it notes those it reached in the file
+that the environment variable MQ_REACHED names.
 """
 
 import re
@@ -11,17 +13,31 @@ import re
 from builds import CompileError
 from operators import Source
 
+MOST = 150  # faults in one file: more of them take the compiler more memory than time
 CHOICE = """#ifndef MQ_FAULT
 #define MQ_FAULT
+#include <cstdio>
 #include <cstdlib>
 #include <type_traits>
+#include <fcntl.h>
+#include <unistd.h>
 inline const int mqFault = [] {
   const char* fault = std::getenv("MQ_FAULT");
   return fault == nullptr ? 0 : std::atoi(fault);
 }();
+inline const char* const mqReachedFile = std::getenv("MQ_REACHED");
+inline bool mqIsReached[MOST + 1];
+inline int mqReach(int body) noexcept {
+  mqIsReached[body] = true;
+  if (mqReachedFile != nullptr) {
+    const int file = open(mqReachedFile, O_WRONLY | O_CREAT | O_APPEND, 0600);
+    dprintf(file, "%d\\n", body);
+    close(file);
+  }
+  return mqFault;
+}
 #endif
-"""
-MOST = 150  # faults in one file: more of them take the compiler more memory than time
+""".replace("MOST", str(MOST))
 
 
 def function_bodies(source):
@@ -94,7 +110,9 @@ def all_in_one(text, places, faults):
         if old == "{}":  # the numbers of an array
             choice = "{", "mqFault == %d ? 1 :", "0}"
         elif old.startswith("{"):
-            choice = ("{ if (std::is_constant_evaluated()) " + old + " else switch (mqFault) {",
+            body = min(inner)
+            choice = ("{ if (std::is_constant_evaluated()) " + old
+                      + f" else switch (mqIsReached[{body}] ? mqFault : mqReach({body})) {{",
                       "case %d: %s break;", "default: " + old + "} }")
         else:
             choice = "(", "mqFault == %d ? (%s) :", f"({old}))"
@@ -121,7 +139,7 @@ class Together:
 
     def __init__(self, path, text, mutants):
         self.path, self.text, source = path, text, Source(path, text)
-        bodies = function_bodies(source)
+        bodies = self.bodies_in_file = function_bodies(source)
         self.places = sorted(bodies + initializers(source))
         numbered = dict(enumerate(mutants, 1))
         self.faults = {number: fault for start, end in self.places
@@ -129,6 +147,12 @@ class Together:
         # A type that is deduced of one copy is an error in another.
         self.bodies = [body for body in bodies if "auto" not in text[text.rfind("\n\n", 0, body[0]) : body[0]]]
         self.refused = {}
+
+    def reached(self, bodies):
+        """The faults that may be noticed by who reached the bodies, named by their first faults."""
+        unreached = {number for body in self.bodies_in_file if (inner := faults_within(self.faults, *body))
+                     and min(inner) not in bodies for number in inner}
+        return [number for number in self.faults if number not in unreached]
 
     def compile(self, changed, compile_file):
         """The objects with all faults that are C++; the others are taken out. None: not together."""
