@@ -180,6 +180,9 @@ TEST(Rows, SequencesAreJoinedBehindTheFirst) {
 // ---------------------------------------------------------------------------------------------
 // What must hold of rows
 
+/// What the checks answer when every row is right.
+constexpr int kNoRow = -1;
+
 TEST(RowChecks, RowsStandByStudyThenByResult) {
   // clang-format off
   const auto sorted = std::to_array<Row>({
@@ -189,7 +192,7 @@ TEST(RowChecks, RowsStandByStudyThenByResult) {
       {Buckling,         Displacement,    When::Always, {0}, 1},
   });
   // clang-format on
-  EXPECT_EQ(FirstUnsorted(sorted), kNone);
+  EXPECT_EQ(FirstUnsorted(sorted), kNoRow);
   auto resultsExchanged = sorted;
   std::swap(resultsExchanged[0], resultsExchanged[1]);
   EXPECT_EQ(FirstUnsorted(resultsExchanged), 1);
@@ -205,7 +208,7 @@ struct Keyed {
 
 TEST(RowChecks, KeysRiseAndNoneComesTwice) {
   const auto rising = std::to_array<Keyed>({{-4, Static}, {0, Static}, {9, Static}});
-  EXPECT_EQ(FirstUnsorted(rising, &Keyed::key), kNone);
+  EXPECT_EQ(FirstUnsorted(rising, &Keyed::key), kNoRow);
   const auto repeated = std::to_array<Keyed>({{1, Static}, {2, Static}, {2, Static}});
   EXPECT_EQ(FirstUnsorted(repeated, &Keyed::key), 2);
   const auto falling = std::to_array<Keyed>({{1, Static}, {0, Static}, {2, Static}});
@@ -214,7 +217,7 @@ TEST(RowChecks, KeysRiseAndNoneComesTwice) {
 
 TEST(RowChecks, EachRowStandsAtThePlaceOfItsCode) {
   const auto inPlace = std::to_array<Keyed>({{0, Static}, {0, Frequency}, {0, Buckling}});
-  EXPECT_EQ(FirstOutOfPlace(inPlace, &Keyed::code), kNone);
+  EXPECT_EQ(FirstOutOfPlace(inPlace, &Keyed::code), kNoRow);
   const auto shifted = std::to_array<Keyed>({{0, Static}, {0, Buckling}});
   EXPECT_EQ(FirstOutOfPlace(shifted, &Keyed::code), 1);
   const auto wrong = std::to_array<Keyed>({{0, Dynamic}});
@@ -261,7 +264,7 @@ TEST(RowChecks, TheSecondOfTwoThatCollideIsNamed) {
   });
   // clang-format on
   EXPECT_EQ(FirstRepeated(rows), 3);
-  EXPECT_EQ(FirstRepeated(std::to_array({rows[0], rows[1], rows[2]})), kNone);
+  EXPECT_EQ(FirstRepeated(std::to_array({rows[0], rows[1], rows[2]})), kNoRow);
   EXPECT_EQ(FirstRepeated(std::to_array({rows[0], rows[0]})), 1);
 }
 
