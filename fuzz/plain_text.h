@@ -7,7 +7,7 @@
 #include <string>
 
 #include <mqPostCommon/platform/stream.h>
-#include <mqPostCommon/platform/wide_string.h>
+#include <mqPostCommon/platform/text.h>
 
 namespace mqp::fuzz {
 

@@ -130,6 +130,9 @@ def main():
     profile = merge_profiles()
     report = export(profile)
     compile_time = compile_time_regions(report["functions"], names_with_code(profile))
+    seen = {file["filename"] for file in report["files"]}
+    failures += [f"{source.relative_to(ROOT)}: nothing was counted"
+                 for source in sorted(LIBRARY.rglob("*.cpp")) if str(source) not in seen]
     for file in report["files"]:
         name = str(pathlib.Path(file["filename"]).relative_to(ROOT))
         lines = (ROOT / name).read_text().splitlines()
@@ -151,6 +154,7 @@ def main():
     result = "all reached" if not failures else f"{len(failures)} missed"
     if exclusions:
         result += f", {len(exclusions)} excluded with reasons"
+    result += f"; {sum(map(len, compile_time.values()))} functions that the compiler alone evaluates"
     print(f"{totals[0]} lines, {totals[1]} branches, {totals[2]} conditions: {result}")
     arguments.results.mkdir(parents=True, exist_ok=True)
     (arguments.results / "coverage.json").write_text(json.dumps([{

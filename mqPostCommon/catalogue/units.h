@@ -4,8 +4,8 @@
 /// and are never translated.
 ///
 /// Arguments throughout: `analysisType` an `AnalysisType`, `resultType` a `ResultType`,
-/// `component` a 0-based index, `unitType` a `UnitType`. Any integer may be passed. Only a name
-/// takes memory: when there is none for it, it throws `std::bad_alloc`.
+/// `component` a 0-based index, `unitType` a `UnitType`. Any integer may be passed. Nothing takes
+/// memory: a unit name lies in the string that is returned.
 #pragma once
 
 #include <mqPostCommon/export.h>

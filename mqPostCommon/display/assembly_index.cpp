@@ -32,9 +32,9 @@ constexpr unsigned Wrapping(int value) noexcept {
 
 /// The elements from `first` to that of the next segment.
 struct Segment {
-  unsigned first = 0;
-  unsigned toVisible = 0;  ///< added to an element, with wrapping, it makes the visible index
-  bool isHeld = false;
+  unsigned first;
+  unsigned toVisible;  ///< added to an element, with wrapping, it makes the visible index
+  bool isHeld;
 };
 
 /// The components that may hold elements, by their first element.
@@ -79,7 +79,6 @@ std::vector<Segment> MakeSegments(Components components) {
     for (; next != shown.end() && first(*next) < element; ++next) {
       if (*next < holder) {
         element = first(*next);
-        break;
       }
       begun.push(*next);
     }
@@ -137,12 +136,12 @@ class SegmentFinder {
     m_levels.push_back({first, shift, buckets});
     m_buckets.resize(buckets + ((end - first - 1) >> shift) + 1);
     for (std::size_t bucket = buckets; first < end; ++bucket) {
-      const unsigned next = end - first > 1U << shift ? first + (1U << shift) : end;
+      const unsigned next = first + std::min(end - first, 1U << shift);
       while (m_segments[segment + 1].first <= first) {
         ++segment;
       }
       std::size_t last = segment + 1;
-      while (last < endSegment && m_segments[last].first < next) {
+      while (m_segments[last].first < next) {
         ++last;
       }
       m_buckets[bucket] = static_cast<int>(segment);

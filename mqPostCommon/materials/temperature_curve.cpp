@@ -61,7 +61,7 @@ double CmqTemperatureCurve::GetYValueAt(double x) const noexcept {
   }
   const double* const X = m_vecX.data();
   const double* const Y = m_vecY.data();
-  if (count == 1 || !(x > X[0])) {
+  if (!(x > X[0])) {
     return Y[0];
   }
   if (x >= X[count - 1]) {

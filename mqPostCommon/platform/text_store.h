@@ -12,7 +12,7 @@ namespace mqp {
 
 /// Code units that lie behind each other, and a zero behind the last one. As many as a display name
 /// has lie in the object itself, so that a name is returned without an allocation; more lie in
-/// memory of their own, and stay there when the text becomes shorter.
+/// memory of their own, which `Assign` and `Erase` keep when the text becomes shorter.
 ///
 /// A function that needs memory throws `std::bad_alloc` when there is none, and the text is as it
 /// was. The texts handed in may be parts of this one.
@@ -47,7 +47,7 @@ class TextStore {
   [[nodiscard]] mqChar* Units() noexcept { return m_units; }
   [[nodiscard]] std::size_t Length() const noexcept { return m_length; }
 
-  /// Allocates only a text that is longer than any before it.
+  /// Allocates only when there is no room for the text.
   void Assign(mqTextView text) {
     if (text.size() > m_room) {
       *this = TextStore(text);

@@ -53,7 +53,8 @@ GATES = [
         "mqPostCommon/params/equation_plot.*"]),
     ("code that owns objects", 100.0, [
         "mqPostCommon/display/*", "mqPostCommon/platform/owned.h", "mqPostCommon/platform/arrays.h",
-        "mqPostCommon/platform/lists.h", "mqPostCommon/materials/material.*"]),
+        "mqPostCommon/platform/lists.h", "mqPostCommon/platform/text_store.h",
+        "mqPostCommon/materials/material.*"]),
     ("core", 95.0, ["*"]),
 ]
 # Tried without a fault before any other of their wing: whatever is noticed then is a mistake of this script.
@@ -416,6 +417,8 @@ def choose(mutants, options):
     others = [mutant for mutant in mutants if mutant.path not in files]
     chosen = sample(changed, options.sample, options.seed)
     chosen += sample(beside, options.sample - len(chosen), options.seed)
+    if options.changed_since:
+        print(f"{len(chosen)} of {len(changed) + len(beside)} faults of changed files")
     return chosen + sample(others, options.sample, options.seed)
 
 

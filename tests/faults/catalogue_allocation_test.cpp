@@ -51,7 +51,13 @@ TEST_F(AllocationFailures, NeverInTheNamesOfTheBuiltInTable) {
 TEST_F(AllocationFailures, InTheUnitsOfTheCatalogue) {
   // clang-format off
   Try(kAnswer, {{
-      {"unit name",        kNeverFails, [](CString& name, CString&) { name = vekPostCommonGetUnitName(21, 0); }},
+      {"unit names",       kNeverFails, [](CString& name, CString&) {
+         for (int type = -1; type < 60; ++type) {
+           for (int unit = -1; unit < 20; ++unit) {
+             name = vekPostCommonGetUnitName(type, unit);
+           }
+         }
+       }},
       {"unknown unit",     kNeverFails, [](CString& name, CString&) { name = vekPostCommonGetUnitName(9999, 0); }},
   }});
   // clang-format on

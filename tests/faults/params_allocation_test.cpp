@@ -164,19 +164,28 @@ TEST_F(AllocationFailures, InAVariableOfAnEquation) {
   // clang-format on
 }
 
+/// Every text of it takes memory.
+EquationState LongEquation(int seed, int variables) {
+  EquationState state = FilledEquation(seed, variables);
+  state.equation += LongText();
+  state.displayEquation += LongText();
+  for (CString& text : state.host3) {
+    text += LongText();
+  }
+  for (VariableState& variable : state.variables) {
+    variable.name += LongText();
+  }
+  return state;
+}
+
 Subject<Equation> EquationSubject() {
   const auto make = [](const EquationState& state) {
     Equation plot;
     SetState(plot, state);
     return plot;
   };
-  const auto makeOther = [make] {
-    EquationState state = FilledEquation(2, 4);
-    state.equation = LongText();
-    state.host3[1] = LongText();
-    return make(state);
-  };
-  return {"CmqEquationPlotParam", [make] { return make(FilledEquation(1, 2)); }, makeOther,
+  return {"CmqEquationPlotParam", [make] { return make(FilledEquation(1, 2)); },
+          [make] { return make(LongEquation(2, 4)); },
           [](const Equation& plot) { return Show(plot); }};
 }
 
@@ -184,13 +193,20 @@ TEST_F(AllocationFailures, InAnEquationPlot) {
   const auto sink = std::make_shared<RefusingStream>(S_OK);
   // clang-format off
   Try(EquationSubject(), {ValueOperations<Equation>(kBasic), {
-      Reading<Equation>(BuildRecord(FilledEquation(3, 3))),
+      Reading<Equation>(BuildRecord(LongEquation(3, 3))),
       {"writing",             kNeverFails, [sink](Equation&, Equation& other) { other.WriteToStream(sink.get(), kVersion); }},
       {"construction",        kNeverFails, [](Equation&, Equation&) { const Equation made; }},
       {"listing its fields",  kStrong,     [](Equation&, Equation&) { Use(Equation::GetRecordFields()); }},
       {"another variable",    kStrong,     [](Equation& plot, Equation&) { plot.m_listVariables.Append(std::make_unique<Variable>()); }},
   }});
   // clang-format on
+}
+
+TEST_F(AllocationFailures, AnEquationPlotIsLoadedInAsManyPiecesAsItHas) {
+  host::MemoryStream stream(BuildRecord(LongEquation(3, 3)));
+  Equation plot;
+  const Outcome outcome = RunWith({}, [&] { plot.ReadFromStream(&stream, kVersion); });
+  EXPECT_EQ(outcome.allocations, 3 + 3 * 3);  // three texts; a variable, its name, its place
 }
 
 /// What was typed, with the names that were offered.

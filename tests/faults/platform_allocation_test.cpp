@@ -237,7 +237,7 @@ TEST_F(AllocationFailures, InAListOfTextsThatIsAValue) {
   const auto make = [](int size) {
     StringValues values;
     for (int number = 0; number < size; ++number) {
-      values.AddTail(CString(MQ_TEXT('a'), 10 + number));
+      values.AddTail(CString(MQ_TEXT('a'), 60 + number));
     }
     return values;
   };
@@ -248,7 +248,7 @@ TEST_F(AllocationFailures, InAListOfTextsThatIsAValue) {
 }
 
 struct Thing : CObject {
-  explicit Thing(int size = 0) : text(MQ_TEXT('t'), 20 + size) {}
+  explicit Thing(int size = 0) : text(MQ_TEXT('t'), 60 + size) {}
   CString text;
 };
 using Things = CTypedPtrList<CObList, Thing*>;

@@ -370,7 +370,7 @@ TEST_P(FullNames, AreFoundByTheirSymbolAlone) {
   }
 }
 
-TEST_P(FullNames, LieInAStringWithoutMemoryOfTheirOwn) {
+TEST_P(FullNames, LieLikeAllTextsInAStringWithoutMemoryOfTheirOwn) {
   for (const UINT id : Expand(kIds)) {
     EXPECT_LE(Load(id).GetLength(), 43) << "id " << id << ": " << Show(Load(id));
   }

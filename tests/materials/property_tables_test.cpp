@@ -329,6 +329,7 @@ TEST(PropertyTables, EveryModelHasItsKeywordsInOrder) {
 }
 
 TEST(PropertyTables, OtherNumbersAreNoModel) {
+  EXPECT_EQ(kMaterialModelTotal, 15);
   for (const int number : {-1, 0, 16, 17, -15, 31, INT_MIN, INT_MAX}) {
     EXPECT_EQ(GetMaterialModel(number).m_nKeywords, 0) << number;
   }

@@ -277,6 +277,18 @@ TEST(EquationVariableRecord, ALongNameIsCutInTheRecordAlone) {
   }
 }
 
+/// Behind some of the names before it the longest one begins at the last place of a full buffer.
+TEST(EquationPlotRecord, LongNamesFollowOneAnotherAtEveryDistance) {
+  for (int length = 960; length <= 1024; ++length) {
+    SCOPED_TRACE(length);
+    EquationState state;
+    for (const int count : {1024, length, 1024, 1024, length, 1024}) {
+      state.variables.push_back({CString(MQ_TEXT('n'), count), count, 2, 3.0});
+    }
+    EXPECT_EQ(ByteDifference(Written(PlotOf(state)), BuildRecord(state)), "");
+  }
+}
+
 // --- without a stream, and before the first version ---
 
 TEST(EquationVariableRecord, WithoutAStreamNothingHappens) {

@@ -222,7 +222,9 @@ struct DistinctValues {
   void Set(float& member) { member = static_cast<float>(next++ & 0xFFFF) + 0.25F; }
   void Set(double& member) { member = -1.0 / 3.0 - next++ / 7.0; }
   void Set(__int64& member) { member = 0x1234'5678'9ABC'0000 + next++; }
-  void Set(CString& member) { member.Format(MQ_TEXT("text \u03A9 %d"), next++); }
+  void Set(CString& member) {
+    member.Format(MQ_TEXT("text \u03A9 %d, for which a string has no room in itself"), next++);
+  }
   void Set(CmqEquationPlotParam& member) { SetState(member, FilledEquation(seed, seed)); }
   template <class Element>
   void Set(CArray<Element>& member) {
