@@ -1,6 +1,4 @@
-#include <climits>
 #include <cstddef>
-#include <new>
 #include <string>
 #include <utility>
 
@@ -162,10 +160,6 @@ TEST(TextStore, LosesTheUnitsThatAreErased) {
       }
     }
   }
-}
-
-TEST(TextStore, ALengthThatNoMemoryHasIsRefused) {
-  EXPECT_THROW(TextStore(static_cast<std::size_t>(-1) / 2, MQ_TEXT('x')), std::bad_alloc);
 }
 
 }  // namespace
