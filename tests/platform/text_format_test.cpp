@@ -86,6 +86,10 @@ TEST(Format, WidthAndFlagsOfIntegers) {
   ExpectFormat(MQ_TEXT("|42|42|"), MQ_TEXT("|%+u|% x|"), 42, 0x42);
 }
 
+TEST(Format, OnlySignedIntegersHaveASign) {
+  ExpectFormat(MQ_TEXT("+7 7 10 ff FF"), MQ_TEXT("%+d %+u %+o %+x %+X"), 7, 7U, 8U, 255U, 255U);
+}
+
 TEST(Format, PrecisionOfIntegersIsTheLeastNumberOfDigits) {
   ExpectFormat(MQ_TEXT("|007|"), MQ_TEXT("|%.3d|"), 7);
   ExpectFormat(MQ_TEXT("|-007|"), MQ_TEXT("|%.3d|"), -7);
@@ -99,6 +103,7 @@ TEST(Format, PrecisionOfIntegersIsTheLeastNumberOfDigits) {
   ExpectFormat(MQ_TEXT("|+|"), MQ_TEXT("|%+.0d|"), 0);
   ExpectFormat(MQ_TEXT("|     |"), MQ_TEXT("|%5.0d|"), 0);
   ExpectFormat(MQ_TEXT("|1|"), MQ_TEXT("|%.0d|"), 1);
+  ExpectFormat(MQ_TEXT("|    7|"), MQ_TEXT("|%05.0d|"), 7);
   ExpectFormat(MQ_TEXT("|00ff|0017|"), MQ_TEXT("|%.4x|%.4o|"), 255, 15);
 }
 

@@ -512,9 +512,10 @@ TEST(WideString, TextsAreFoundAtOrBehindAStart) {
 
 TEST(WideString, TheStartOfASearchIsTheFrontUnlessItIsGiven) {
   const CString text = MQ_TEXT("abab");
-  EXPECT_EQ(text.Find(MQ_TEXT("b")), 1);
-  EXPECT_EQ(text.Find(MQ_TEXT('b')), 1);
-  EXPECT_EQ(text.Find(CString(MQ_TEXT("b"))), 1);
+  EXPECT_EQ(text.Find(MQ_TEXT("a")), 0);
+  EXPECT_EQ(text.Find(MQ_TEXT('a')), 0);
+  EXPECT_EQ(text.Find(CString(MQ_TEXT("a"))), 0);
+  EXPECT_EQ(text.Find(mqTextView(MQ_TEXT("a"))), 0);
   EXPECT_EQ(text.Find(MQ_TEXT('x')), -1);
 }
 
