@@ -29,6 +29,7 @@ class TextStore {
   }
   TextStore(const TextStore& other) : TextStore(other.View()) {}
   TextStore(TextStore&& other) noexcept { Take(other); }
+  // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): it may be all of itself as well as a part
   TextStore& operator=(const TextStore& other) {
     Assign(other.View());
     return *this;
