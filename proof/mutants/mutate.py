@@ -286,7 +286,7 @@ def groups(mutants):
 
 
 def try_all(mutants, options, texts, equivalents, scratch):
-    """The verdict of each mutant, in their order."""
+    """The verdict of each mutant and whether an earlier run had it, in their order."""
     lock, presets, local, workers = threading.Lock(), {}, threading.local(), []
     journal = Journal(options.journal, texts)
     names = ["dev"] if options.no_sanitizers else ["dev", "asan"]
@@ -336,8 +336,9 @@ def try_all(mutants, options, texts, equivalents, scratch):
 
     preset("dev")  # configured and built before the clock starts
     start = time.monotonic()
-    untried = [mutant for mutant in mutants
-               if not is_said_to_change_nothing(mutant) and not journal.find(mutant)]
+    earlier = [bool(journal.find(mutant)) for mutant in mutants]
+    untried = [mutant for mutant, is_known in zip(mutants, earlier)
+               if not is_known and not is_said_to_change_nothing(mutant)]
     with ThreadPoolExecutor(options.jobs) as pool:
         list(pool.map(judge_together, groups(untried)))
         verdicts = list(pool.map(judge, mutants))
@@ -345,7 +346,7 @@ def try_all(mutants, options, texts, equivalents, scratch):
     count = sum(tried.values())
     if count:
         print(f"{count} faults tried in {seconds:.0f} s: {seconds * options.jobs / count:.2f} s each")
-    return verdicts, seconds
+    return verdicts, earlier, seconds
 
 
 def show(mutant, verdict, who, texts):
@@ -358,12 +359,14 @@ def show(mutant, verdict, who, texts):
             print(f"    {line}", flush=True)
 
 
-def judge_gates(mutants, verdicts, seconds):
+def judge_gates(mutants, verdicts, earlier, seconds):
     """The rows of the result table, and whether every gate holds."""
     rows, holds = [], all(verdict != "wrong" for verdict, _ in verdicts)
     for name, least, patterns in GATES:
-        counted = Counter(verdict for mutant, (verdict, _) in zip(mutants, verdicts)
-                          if any(fnmatch(mutant.path, pattern) for pattern in patterns))
+        held = [place for place, mutant in enumerate(mutants)
+                if any(fnmatch(mutant.path, pattern) for pattern in patterns)]
+        counted = Counter(verdicts[place][0] for place in held)
+        known = sum(earlier[place] for place in held)
         killed = sum(counted[verdict] for verdict in KILLED)
         total = killed + counted["survived"]
         score = 100.0 * killed / total if total else 100.0
@@ -374,7 +377,8 @@ def judge_gates(mutants, verdicts, seconds):
             "result": f"{killed} of {total} ({score:.1f} %): {counted['test']} by tests, "
                       f"{counted['compiler']} by the compiler, {counted['time']} by the time limit, "
                       f"{counted['sanitizer']} by sanitizers; {counted['survived']} survived, "
-                      f"{counted['equivalent']} change nothing, {counted['invalid']} are no C++",
+                      f"{counted['equivalent']} change nothing, {counted['invalid']} are no C++"
+                      + (f"; {known} of them in earlier runs" if known else ""),
             "seconds": round(seconds, 1)})
         print(f"{name}: {rows[-1]['result']}")
     return rows, holds
@@ -449,8 +453,8 @@ def main():
 
     (ROOT / "build").mkdir(exist_ok=True)
     with tempfile.TemporaryDirectory(prefix="mutants-", dir=ROOT / "build") as scratch:
-        verdicts, seconds = try_all(mutants, options, texts, equivalents, Path(scratch))
-    rows, holds = judge_gates(mutants, verdicts, seconds)
+        verdicts, earlier, seconds = try_all(mutants, options, texts, equivalents, Path(scratch))
+    rows, holds = judge_gates(mutants, verdicts, earlier, seconds)
     options.results.mkdir(parents=True, exist_ok=True)
     (options.results / "mutants.json").write_text(json.dumps(rows, indent=2) + "\n")
     return 0 if holds and not unused else 1
