@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <memory>
 #include <utility>
 
 #include <mqPostCommon/platform/text.h>
@@ -36,12 +37,11 @@ class TextStore {
   }
   TextStore& operator=(TextStore&& other) noexcept {
     if (this != &other) {
-      Release();
       Take(other);
     }
     return *this;
   }
-  ~TextStore() { Release(); }
+  ~TextStore() = default;
 
   [[nodiscard]] mqTextView View() const noexcept { return {m_units, m_length}; }
   [[nodiscard]] const mqChar* Units() const noexcept { return m_units; }
@@ -83,7 +83,8 @@ class TextStore {
   /// Empty, with room for so many units.
   explicit TextStore(Room room) {
     if (room.units > kOwnRoom) {
-      m_units = new mqChar[room.units + 1];
+      m_memory = std::make_unique_for_overwrite<mqChar[]>(room.units + 1);
+      m_units = m_memory.get();
       m_room = room.units;
     }
     Terminate(0);
@@ -94,21 +95,18 @@ class TextStore {
   }
   /// From another one, which is empty then; of this one nothing is kept.
   void Take(TextStore& other) noexcept {
-    if (other.m_units == other.m_own) {
-      m_units = std::copy_n(other.m_own, other.m_length, m_own) - other.m_length;
-    } else {
-      m_units = std::exchange(other.m_units, other.m_own);
-    }
+    m_memory = std::move(other.m_memory);
+    m_units = m_memory == nullptr ? m_own : m_memory.get();
     m_room = std::exchange(other.m_room, kOwnRoom);
+    if (m_memory == nullptr) {
+      std::copy_n(other.m_own, other.m_length, m_own);
+    }
     Terminate(other.m_length);
+    other.m_units = other.m_own;
     other.Terminate(0);
   }
-  void Release() noexcept {
-    if (m_units != m_own) {
-      delete[] m_units;
-    }
-  }
 
+  std::unique_ptr<mqChar[]> m_memory;
   mqChar* m_units = m_own;
   std::size_t m_length;
   std::size_t m_room = kOwnRoom;

@@ -40,7 +40,7 @@ bool IsWithin(const TextStore& text) {
 constexpr std::size_t kLengths[] = {0, 1, 42, 43, 44, 45, 87, 88, 89, 500};
 
 TEST(TextStore, HasRoomForADisplayNameInItself) {
-  EXPECT_EQ(sizeof(TextStore), 112U);
+  EXPECT_EQ(sizeof(TextStore), 120U);
   for (const std::size_t length : kLengths) {
     EXPECT_EQ(IsWithin(TextStore(UnitsOf(length))), length <= 43) << length;
   }
