@@ -69,8 +69,15 @@ def is_of_one_unit(table, mutant):
     return first == last
 
 
+def is_behind_no_member(table, mutant):
+    """The first of three members says that there are none."""
+    first = leaf_at(table, f".values[{mutant.rows[0]}][0]")
+    return mutant.rows[1] > 0 and table.data[first] == 0xFF
+
+
 WHERE = {"behind the end of a text": is_behind_text,
          "the cell has no condition": has_no_condition,
+         "there are no members": is_behind_no_member,
          "the list is empty": is_list_empty,
          "the list reads the same": reads_the_same,
          "there is no such condition": has_no_such_condition,

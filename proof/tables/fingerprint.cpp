@@ -4,6 +4,7 @@
 #include "table_mutants.h"
 
 #include <array>
+#include <bit>
 #include <cinttypes>
 #include <climits>
 #include <cmath>
@@ -208,7 +209,7 @@ void AskDirections(Answers& answers, int study, int result) {
       std::array<float, 4> direction{};
       vekPostCommonGetComponentVectorDir(study, result, component, variant, direction.data());
       for (const float weight : direction) {
-        answers.Add(static_cast<int>(weight));
+        answers.Add(std::bit_cast<std::uint32_t>(weight));
       }
     }
   }
