@@ -107,17 +107,28 @@ def sample(mutants, count, seed):
 
 
 class Equivalents:
-    """The faults that change nothing, one a line: file, text of the line, change, reason."""
+    """The faults that change nothing, one a line: file, text of the line, change, reason. Of lines
+    with the same text each is named by its place among them: "break; [2 of 3]"."""
 
     def __init__(self, texts):
-        self.texts = {path: text.splitlines() for path, text in texts.items()}
+        self.texts = {path: self._told_apart(text.splitlines()) for path, text in texts.items()}
         with open(HERE / "equivalents.tsv", newline="", encoding="utf-8") as file:
             rows = [row for row in csv.reader(file, delimiter="\t", quoting=csv.QUOTE_NONE)
                     if row and not row[0].startswith("#")]
         self.reasons = {tuple(row[:3]): row[3] for row in rows}
 
+    @staticmethod
+    def _told_apart(lines):
+        lines = [line.strip() for line in lines]
+        counts, seen = Counter(lines), Counter()
+        for place, line in enumerate(lines):
+            seen[line] += 1
+            if counts[line] > 1:
+                lines[place] = f"{line} [{seen[line]} of {counts[line]}]"
+        return lines
+
     def key(self, mutant):
-        return mutant.path, self.texts[mutant.path][mutant.line - 1].strip(), mutant.change
+        return mutant.path, self.texts[mutant.path][mutant.line - 1], mutant.change
 
     def knows(self, mutant):
         return self.key(mutant) in self.reasons

@@ -101,7 +101,7 @@ TEST_F(AllocationFailures, InAGraph) {
       {"listing its fields",  kStrong,     [](Graph&, Graph&) { Use(Graph::GetRecordFields()); }},
       {"construction",        kNeverFails, [](Graph&, Graph&) { const Graph made; }},
       {"ConstructInit",       kNeverFails, [](Graph& graph, Graph&) { graph.ConstructInit(8, 13, 1, 1, 1); }},
-      {"GetFolderName",       kNeverFails,     [](Graph& graph, Graph&) { Use(graph.GetFolderName()); }},
+      {"GetFolderName",       kNeverFails, [](Graph& graph, Graph&) { Use(graph.GetFolderName()); }},
       {"its kinds",           kNeverFails, [](Graph& graph, Graph&) { Use(graph.GetResultGraphType(), graph.IsFatigueDamageMatrix(), graph.IsTransientGraphMatrix()); }},
       {"its preferences",     kNeverFails, [](Graph& graph, Graph&) { graph.SetDefaultOptionByPreferences(&kPreferences); }},
   }});
