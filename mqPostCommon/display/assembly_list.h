@@ -42,15 +42,19 @@ class MQPOSTCOMMON_API CDspAsmCompList {
   /// Appends a copy with a value. Returns its index.
   int Add(const CDspAsmComp& component, int value);
 
+  /// A copy of a component.
+  /// \throw CInvalidArgException for an index outside the list
+  [[nodiscard]] CDspAsmComp GetAt(int index) const;
   /// A copy of a component, and its value: 0 for one that was added to the components alone.
   /// \param value receives it; not null
   /// \throw CInvalidArgException for an index outside the list
-  [[nodiscard]] CDspAsmComp GetAt(int index) const;
   [[nodiscard]] CDspAsmComp GetAt(int index, int* value) const;
-  /// Replaces a component by assignment, and its value. The flip records of the old one are the
-  /// host's from then on.
+  /// Replaces a component by assignment. The flip records of the old one are the host's from then
+  /// on.
   /// \throw CInvalidArgException for an index outside the list
   void SetAt(int index, const CDspAsmComp& component);
+  /// Replaces a component in the same way, and its value.
+  /// \throw CInvalidArgException for an index outside the list
   void SetAt(int index, const CDspAsmComp& component, int value);
   /// Sets the element range of a component.
   /// \throw CInvalidArgException for an index outside the list

@@ -16,8 +16,9 @@ SECTIONS = re.compile(r"\.(?:init_array|fini_array|preinit_array|ctors|dtors)\b"
 
 # A relocation with the value of its symbol, if it has one, and what is added.
 RELOCATION = re.compile(r"\w+ +\w+ +R_X86_64_\w+ +(?:(\w{16}) \S+ \+ )?(\w+)$")
-# The exported tables, whose texts lie in themselves, and the names of types.
-NO_TEXT = re.compile(r"g_|_ZTS")
+# The exported tables, whose texts lie in themselves, names of types, and the mark by which the standard
+# library knows what it has made in one piece with its count.
+NO_TEXT = re.compile(r"g_|_ZTS|_ZZNSt19_Sp_make_shared_tag")
 
 
 def objects_with_constructors(folder, dump):

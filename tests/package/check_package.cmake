@@ -22,7 +22,7 @@ run(${scratch}/consumer/consumer)
 file(GLOB_RECURSE pkgConfigFile ${prefix}/mqPostCommon.pc)
 get_filename_component(pkgConfigFolder ${pkgConfigFile} DIRECTORY)
 set(ENV{PKG_CONFIG_PATH} ${pkgConfigFolder})
-execute_process(COMMAND pkg-config --cflags --libs --define-variable=prefix=${prefix} mqPostCommon
+execute_process(COMMAND pkg-config --cflags --libs mqPostCommon
   OUTPUT_VARIABLE flags OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 separate_arguments(flags)
 get_filename_component(libraries ${pkgConfigFolder} DIRECTORY)
