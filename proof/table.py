@@ -9,6 +9,7 @@ import argparse
 import json
 import pathlib
 import re
+import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
@@ -47,9 +48,10 @@ def main():
     rows = list(read_rows(arguments.results))
     if not rows:
         sys.exit(f"table.py: no check has left a result in {arguments.results}")
+    commit = subprocess.run(["git", "rev-parse", "--short", "HEAD"], cwd=ROOT, capture_output=True, text=True)
     lines = ["# What was proved", "",
-             "Made by the checks themselves (`./dev prove`, or `./dev soak` for nights); "
-             "not edited by hand.", "",
+             f"Made by the checks themselves (`./dev prove`, or `./dev soak` for nights) at commit "
+             f"{commit.stdout.strip() or 'unknown'}; not edited by hand.", "",
              "| check | cases | result | seconds |", "|---|---:|---|---:|"]
     lines += [f"| {row['check']} | {row['cases']:,} | {row['result']} | {row['seconds']:.1f} |"
               for row in rows]

@@ -72,7 +72,7 @@ def check_texts(binaries):
     demand_none([name or "a literal" for name in targets if not NO_TEXT.match(name)],
                 "texts whose addresses the loader has to adjust")
     return Finding("no text of the library is adjusted when it is loaded", len(targets),
-                   "exported tables and type names alone")
+                   "exported tables, type names and a mark of the standard library")
 
 
 def check_programs(shop, platform, binaries):
