@@ -65,7 +65,7 @@ inline constexpr UINT kIdCount = FindLastId() - kFirstId + 1;
 
 struct BuiltInTable {
   std::array<TextPlace, kIdCount> places;  ///< by id, the first one at 0
-  std::array<mqChar, CountUnits()> units;
+  std::array<mqChar, CountUnits() + PaddedText::kUnits> units;
 };
 
 consteval BuiltInTable BuildTable() {

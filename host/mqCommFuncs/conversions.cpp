@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <cstddef>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -17,6 +19,6 @@ int STRING2LPUSHORT(const CString& text, unsigned short* units, int capacity) {
     return 0;
   }
   const int count = std::min(text.GetLength(), capacity);
-  std::copy_n(text.View().begin(), count, units);
+  std::memcpy(units, text.GetString(), sizeof(mqChar) * static_cast<std::size_t>(count));
   return count;
 }

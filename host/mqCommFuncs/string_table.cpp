@@ -24,27 +24,40 @@ class Overlay {
   void Replace(UINT id, mqTextView text) {
     const UINT slot = id - kFirstId;
     if (slot >= kIdCount) {
-      m_others[id] = text;
+      m_others[id] = Run(PaddedText::kUnits, 0);
+      Append(text, m_others[id]);
       return;
     }
-    m_places[slot] = {static_cast<std::uint32_t>(m_units.size()),
+    m_places[slot] = {static_cast<std::uint32_t>(m_units.size() - PaddedText::kUnits),
                       static_cast<std::uint32_t>(text.size())};
-    m_units += text;
+    Append(text, m_units);
   }
 
   [[nodiscard]] const TextPlace* Places() const noexcept { return m_places.data(); }
   [[nodiscard]] const mqChar* Units() const noexcept { return m_units.data(); }
 
   /// The text of an id outside the range of the built-in ones.
-  [[nodiscard]] std::optional<mqTextView> FindOther(UINT id) const noexcept {
+  [[nodiscard]] std::optional<PaddedText> FindOther(UINT id) const noexcept {
     const auto found = m_others.find(id);
-    return found == m_others.end() ? std::nullopt : std::optional<mqTextView>(found->second);
+    if (found == m_others.end()) {
+      return std::nullopt;
+    }
+    return PaddedText{found->second.data(), found->second.size() - PaddedText::kUnits};
   }
 
  private:
+  /// Units of texts with what is copied along behind them.
+  using Run = std::basic_string<mqChar>;
+
+  static void Append(mqTextView text, Run& run) {
+    run.resize(run.size() - PaddedText::kUnits);
+    run += text;
+    run.resize(run.size() + PaddedText::kUnits);
+  }
+
   std::vector<TextPlace> m_places{kBuiltIn.places.begin(), kBuiltIn.places.end()};
-  std::basic_string<mqChar> m_units{kBuiltIn.units.begin(), kBuiltIn.units.end()};
-  std::map<UINT, std::basic_string<mqChar>> m_others;
+  Run m_units{kBuiltIn.units.begin(), kBuiltIn.units.end()};
+  std::map<UINT, Run> m_others;
 };
 
 /// The texts in use, by id from `kFirstId` on. Without an overlay they are the built-in ones.
@@ -64,13 +77,13 @@ void Use(std::unique_ptr<Overlay> overlay) noexcept {
   inUse = {kept->Places(), kept->Units(), kept};
 }
 
-std::optional<mqTextView> FindText(UINT id) noexcept {
+std::optional<PaddedText> FindText(UINT id) noexcept {
   const UINT slot = id - kFirstId;
   if (slot >= kIdCount) {
     return inUse.overlay == nullptr ? std::nullopt : inUse.overlay->FindOther(id);
   }
   const TextPlace place = inUse.places[slot];
-  return HoldsText(place) ? std::optional(mqTextView(inUse.units + place.offset, place.length))
+  return HoldsText(place) ? std::optional(PaddedText{inUse.units + place.offset, place.length})
                           : std::nullopt;
 }
 
@@ -122,7 +135,7 @@ int CountMissingIds() noexcept {
 }  // namespace mqp::host
 
 int mqpLoadString(CString& text, UINT id) {
-  const std::optional<mqTextView> found = mqp::host::FindText(id);
+  const std::optional<mqp::PaddedText> found = mqp::host::FindText(id);
   if (!found) {
     text.Empty();
     mqp::host::missingIds.fetch_add(1, std::memory_order_relaxed);

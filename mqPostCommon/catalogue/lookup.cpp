@@ -1,4 +1,4 @@
-#include <utility>
+#include <cstddef>
 
 #include <mqPostCommon/catalogue/lookup.h>
 #include <mqPostCommon/catalogue/name_ids.h>
@@ -105,10 +105,10 @@ constexpr int kNotFound = -1;
 constexpr int kNoResultType = 9999;
 
 /// \param buffer whatever it holds goes; its room takes the name
-bool NameBeginsWith(NameId id, const CString& key, CString& buffer) {
+bool NameBeginsWith(NameId id, mqTextView key, CString& buffer) {
   buffer.Empty();  // a host may leave it for an unknown id
   mqpLoadString(buffer, id);
-  return buffer.View().starts_with(key.View());
+  return buffer.View().starts_with(key);
 }
 
 }  // namespace
@@ -120,15 +120,11 @@ int vekPostCommonGetComponentIndexByName(int analysisType, int resultType, int v
   if (name.IsEmpty()) {
     return kNotFound;
   }
-  CString key;
-  if (exactName != 0) {
-    std::swap(key, name.Trim());
-  } else {
-    key = MakeKey(name);
-  }
+  const mqTextView key = exactName != 0 ? name.Trim().View() : KeyOf(name.View());
+  CString buffer;
   for (const Candidate& candidate :
        kCandidateIndex.Listed(analysisType, resultType, If(variant != 0, When::Alternate))) {
-    if (NameBeginsWith(candidate.id, key, name)) {
+    if (NameBeginsWith(candidate.id, key, buffer)) {
       return candidate.component;
     }
   }
@@ -137,10 +133,11 @@ int vekPostCommonGetComponentIndexByName(int analysisType, int resultType, int v
 
 int vekPostCommonGetResultTypeByComponentName(CString name) {
   using namespace mqp;
-  const CString key = MakeKey(name);
+  const mqTextView key = KeyOf(name.View());
+  CString buffer;
   for (const ResultRow& row : kResultCandidates) {
     for (int place = 0; place < row.names.count; ++place) {
-      if (NameBeginsWith(row.names.values[static_cast<std::size_t>(place)], key, name)) {
+      if (NameBeginsWith(row.names.values[static_cast<std::size_t>(place)], key, buffer)) {
         return Code(row.result);
       }
     }

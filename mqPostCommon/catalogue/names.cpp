@@ -225,12 +225,11 @@ When BeamCondition(int meshKind) noexcept {
   return If(meshKind == Code(MeshKind::BeamMesh), When::BeamMesh);
 }
 
-/// The text before the first colon; all of it when there is none or it stands in front.
-CString CutAtColon(CString text) {
+/// Leaves the text before the first colon; all of it when there is none or it stands in front.
+void CutAtColon(CString& text) {
   if (const int colon = text.Find(MQ_TEXT(':')); colon > 0) {
     text.Delete(colon, text.GetLength());
   }
-  return text;
 }
 
 }  // namespace
@@ -258,8 +257,8 @@ CString vekPostCommonGetComponentNameBar(int analysisType, int resultType, int p
   const bool fallsBack =
       resultType != Code(ResultType::ResultType53) && resultType != Code(ResultType::ResultType54);
   if (text.IsEmpty() && fallsBack) {
-    text = CutAtColon(
-        vekPostCommonGetComponentName(analysisType, resultType, passOn, component, 0, 0));
+    text = vekPostCommonGetComponentName(analysisType, resultType, passOn, component, 0, 0);
+    CutAtColon(text);
   }
   return text;
 }

@@ -233,7 +233,7 @@ constexpr std::size_t CountUnitsOfNames() {
 struct UnitNames {
   std::array<std::uint16_t, kUnitTypes + 1> firstName;    ///< by quantity
   std::array<std::uint16_t, CountNames() + 1> firstUnit;  ///< by name
-  std::array<mqChar, CountUnitsOfNames()> units;
+  std::array<mqChar, CountUnitsOfNames() + PaddedText::kUnits> units;
 };
 
 constexpr UnitNames kUnitNames = [] {
@@ -269,15 +269,24 @@ const UnitChoice& ChoiceOf(int unitType) noexcept {
   return kUnitChoices[std::min<std::size_t>(static_cast<unsigned>(unitType), kUnitTypes)];
 }
 
+/// The quantity of a component, or `kNoUnit`.
+Unit FindQuantity(int analysisType, int resultType, int component, int option,
+                  int optionFlag) noexcept {
+  const bool isOption2 = option == 2;
+  const bool isFlagSet = optionFlag != 0;
+  return kQuantityIndex.At(
+      analysisType, resultType,
+      If(isOption2 & isFlagSet, When::Spectral) | If(LoadDisplayFlag() == 1, When::RealModes),
+      component);
+}
+
 }  // namespace
 }  // namespace mqp
 
 int vekPostCommonGetUnitType(int analysisType, int resultType, int component, int option,
                              int optionFlag) noexcept {
   using namespace mqp;
-  const When given = If(option == 2 && optionFlag != 0, When::Spectral) |
-                     If(LoadDisplayFlag() == 1, When::RealModes);
-  const Unit unit = kQuantityIndex.At(analysisType, resultType, given, component);
+  const Unit unit = FindQuantity(analysisType, resultType, component, option, optionFlag);
   return unit == kNoUnit ? Code(UnitType::None) : unit;
 }
 
@@ -299,16 +308,15 @@ CString vekPostCommonGetUnitName(int unitType, int index) {
   }
   const std::size_t begin = kUnitNames.firstUnit[first + place];
   const std::size_t end = kUnitNames.firstUnit[first + place + 1];
-  return CString(mqTextView(kUnitNames.units.data() + begin, end - begin));
+  return CString(PaddedText{kUnitNames.units.data() + begin, end - begin});
 }
 
 int vekPostCommonGetComponentUnitsBasedOnSystemUnit(int unitSystem, int analysisType,
                                                     int resultType, int component, int option,
                                                     int optionFlag) noexcept {
   using namespace mqp;
-  const int unitType =
-      vekPostCommonGetUnitType(analysisType, resultType, component, option, optionFlag);
+  const Unit unit = FindQuantity(analysisType, resultType, component, option, optionFlag);
   const auto system = std::min<std::size_t>(static_cast<unsigned>(unitSystem),
                                             static_cast<std::size_t>(UnitSystem::Metric));
-  return ChoiceOf(unitType).defaults[system];
+  return ChoiceOf(unit).defaults[system];
 }

@@ -202,7 +202,7 @@ CString CVekPostListParam::GetComponentName(int component) const {
 }
 
 CString CVekPostListParam::GetComponentNameShort(int component) const {
-  return mqp::MakeKey(GetComponentName(component));
+  return CString(mqp::KeyOf(GetComponentName(component).View()));
 }
 
 int CVekPostListParam::GetComponentIndex(int component) const {

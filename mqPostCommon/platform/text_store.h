@@ -4,12 +4,22 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <memory>
 #include <utility>
 
 #include <mqPostCommon/platform/text.h>
 
 namespace mqp {
+
+/// A text in memory of which `kUnits` units may be read, however short it is: all of them are
+/// copied, as no processor could guess how long the next text is.
+struct PaddedText {
+  static constexpr std::size_t kUnits = 44;
+
+  const mqChar* units;
+  std::size_t length;
+};
 
 /// Code units that lie behind each other, and a zero behind the last one. As many as a display name
 /// has lie in the object itself, so that a name is returned without an allocation; more lie in
@@ -19,20 +29,22 @@ namespace mqp {
 /// was. The texts handed in may be parts of this one.
 class TextStore {
  public:
-  /// The longest text without an allocation.
-  static constexpr std::size_t kOwnRoom = 43;
+  /// The longest text without an allocation. A zero stands behind it.
+  static constexpr std::size_t kOwnRoom = PaddedText::kUnits - 1;
 
   TextStore() noexcept { Terminate(0); }
   explicit TextStore(mqTextView text) : TextStore(Room{text.size()}) { Append(text); }
+  explicit TextStore(PaddedText text) : TextStore() { Assign(text); }
   TextStore(std::size_t count, mqChar unit) : TextStore(Room{count}) {
     std::fill_n(m_units, count, unit);
     Terminate(count);
   }
-  TextStore(const TextStore& other) : TextStore(other.View()) {}
+  TextStore(const TextStore& other) : TextStore(other.Padded()) {}
   TextStore(TextStore&& other) noexcept { Take(other); }
-  // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): it may be all of itself as well as a part
   TextStore& operator=(const TextStore& other) {
-    Assign(other.View());
+    if (this != &other) {
+      Assign(other.Padded());
+    }
     return *this;
   }
   TextStore& operator=(TextStore&& other) noexcept {
@@ -57,6 +69,15 @@ class TextStore {
     std::char_traits<mqChar>::move(m_units, text.data(), text.size());
     Terminate(text.size());
   }
+  /// The same with a text that is no part of this one.
+  void Assign(PaddedText text) {
+    if (text.length > kOwnRoom) {
+      Assign(mqTextView(text.units, text.length));
+      return;
+    }
+    std::memcpy(m_units, text.units, sizeof m_own);
+    Terminate(text.length);
+  }
   /// Appending again and again allocates as often as the length doubles.
   void Append(mqTextView text) {
     const std::size_t length = m_length + text.size();
@@ -77,6 +98,8 @@ class TextStore {
   }
 
  private:
+  [[nodiscard]] PaddedText Padded() const noexcept { return {m_units, m_length}; }
+
   struct Room {
     std::size_t units;
   };
@@ -99,7 +122,7 @@ class TextStore {
     m_units = m_memory == nullptr ? m_own : m_memory.get();
     m_room = std::exchange(other.m_room, kOwnRoom);
     if (m_memory == nullptr) {
-      std::copy_n(other.m_own, other.m_length, m_own);
+      std::memcpy(m_own, other.m_own, sizeof m_own);
     }
     Terminate(other.m_length);
     other.m_units = other.m_own;

@@ -30,6 +30,7 @@ class CString {
       : m_text(text == nullptr ? mqTextView() : mqTextView(text, Count(length))) {}
   explicit CString(mqChar unit, int count = 1) : m_text(Count(count), unit) {}
   explicit CString(mqTextView text) : m_text(text) {}
+  explicit CString(mqp::PaddedText text) : m_text(text) {}
 
   CString& operator=(const mqChar* text) {
     return *this = text == nullptr ? mqTextView() : mqTextView(text);
@@ -62,6 +63,12 @@ class CString {
   }
   /// The text as a view; valid until the string changes.
   [[nodiscard]] mqTextView View() const noexcept { return m_text.View(); }
+
+  /// The text is no part of this one.
+  CString& operator=(mqp::PaddedText text) {
+    m_text.Assign(text);
+    return *this;
+  }
 
   CString& operator+=(const CString& text) { return *this += text.View(); }
   CString& operator+=(const mqChar* text) {

@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <mqPostCommon/platform/text_store.h>
@@ -97,6 +99,39 @@ TEST(TextStore, TakesTheTextOfAnotherOneAtEveryLength) {
     Expect(itself, UnitsOf(before));
     itself = std::move(same);
     Expect(itself, UnitsOf(before));
+  }
+}
+
+/// A padded text in memory of its own, of which not one unit more may be read.
+class Padded {
+ public:
+  explicit Padded(const Units& text)
+      : m_memory(std::max<std::size_t>(text.size(), 44), MQ_TEXT('?')), m_length(text.size()) {
+    std::ranges::copy(text, m_memory.begin());
+  }
+  [[nodiscard]] PaddedText Text() const { return {m_memory.data(), m_length}; }
+
+ private:
+  std::vector<mqChar> m_memory;
+  std::size_t m_length;
+};
+
+TEST(TextStore, TakesOfAPaddedTextNoMoreThanItsLength) {
+  EXPECT_EQ(PaddedText::kUnits, 44U);
+  for (const std::size_t length : kLengths) {
+    const Padded padded(UnitsOf(length));
+    const TextStore made(padded.Text());
+    Expect(made, UnitsOf(length));
+    EXPECT_EQ(IsWithin(made), length <= 43) << length;
+    for (const std::size_t before : kLengths) {
+      TextStore target(UnitsOf(before));
+      const mqChar* const units = target.Units();
+      target.Assign(padded.Text());
+      Expect(target, UnitsOf(length));
+      EXPECT_EQ(target.Units() == units, length <= std::max<std::size_t>(before, 43)) << length;
+      target.Append(UnitsOf(50));
+      Expect(target, UnitsOf(length) + UnitsOf(50));
+    }
   }
 }
 

@@ -130,6 +130,18 @@ TEST(WideString, AViewTakesThePlaceOfATextAndTheRoomThatItHas) {
   EXPECT_EQ(text, MQ_TEXT(""));
 }
 
+TEST(WideString, APaddedTextTakesThePlaceOfAText) {
+  const std::basic_string<mqChar> units = MQ_TEXT("mm") + std::basic_string<mqChar>(42, '?');
+  const mqp::PaddedText padded{units.data(), 2};
+  CString text(padded);
+  EXPECT_EQ(text, MQ_TEXT("mm"));
+  text = MQ_TEXT("newton");
+  text = padded;
+  EXPECT_EQ(text, MQ_TEXT("mm"));
+  EXPECT_EQ(text.GetLength(), 2);
+  EXPECT_EQ(text.GetString()[2], 0);
+}
+
 TEST(WideString, AViewOfItsOwnPartTakesThePlaceOfAText) {
   CString text = MQ_TEXT("abcdefghijklmno");
   text = text.View().substr(4, 9);

@@ -67,8 +67,8 @@ void StoreUnits(const CString& text, int count, std::byte* bytes);
 
 /// Fills bytes from a stream and takes their first so many units for a text, up to the first zero.
 /// What the stream does not deliver of the units counts as zeros, so that it ends the text.
-/// \param bytes the units and whatever else is to be read with them, which keeps what is not
-///              delivered
+/// \param bytes the units, aligned as such, and whatever else is to be read with them, which keeps
+///              what is not delivered
 void ReadUnits(IStream& stream, std::span<std::byte> bytes, int count, CString& text);
 
 /// What goes into a stream in one call, and room behind it for what is stored before it is looked
@@ -141,7 +141,7 @@ class RecordWriter {
 /// more room in an object than its count does here. The first part is room for the units of a text.
 template <class Object>
 struct ReadBuffer {
-  std::array<std::byte, kMaximumTextSize + sizeof(Object)> bytes;
+  alignas(double) std::array<std::byte, kMaximumTextSize + sizeof(Object)> bytes;
   std::array<std::byte*, sizeof(Object) / sizeof(int)> runEnds;
 };
 

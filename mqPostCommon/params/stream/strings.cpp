@@ -13,13 +13,10 @@ void mqp::StoreUnits(const CString& text, int count, std::byte* bytes) {
 }
 
 void mqp::ReadUnits(IStream& stream, std::span<std::byte> bytes, int count, CString& text) {
-  std::array<mqChar, kMaximumStringRecordLength + 1> units;
-  const auto read = std::span(units).first(static_cast<std::size_t>(count));
-  std::memset(bytes.data(), 0, read.size_bytes());
+  const auto* const units = reinterpret_cast<const mqChar*>(bytes.data());
+  std::memset(bytes.data(), 0, sizeof(mqChar) * static_cast<std::size_t>(count));
   stream.Read(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
-  LoadValues(bytes.data(), read);
-  units[read.size()] = 0;
-  text = units.data();
+  text = mqTextView(units, std::find(units, units + count, mqChar{0}));
 }
 
 int CStringWriteToStream(IStream* stream, CString* text) {
@@ -33,7 +30,7 @@ int CStringReadFromStream(IStream* stream, CString* text) {
   if (stream == nullptr || text == nullptr) {
     return 0;
   }
-  std::array<std::byte, mqp::kMaximumTextSize> bytes;
+  alignas(mqChar) std::array<std::byte, mqp::kMaximumTextSize> bytes;
   int count = 0;
   std::fill_n(bytes.data(), sizeof(count), std::byte{0});
   stream->Read(bytes.data(), sizeof(count), nullptr);
