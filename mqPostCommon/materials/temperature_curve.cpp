@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <bit>
+#include <concepts>
 #include <cstddef>
+#include <span>
 
 #include <emmintrin.h>
 
@@ -20,23 +22,59 @@ std::vector<double> FirstEntries(const std::vector<double>& entries, int count) 
   return {entries.begin(), entries.begin() + static_cast<std::ptrdiff_t>(end)};
 }
 
-/// The first number for which `meets(number, x)` holds, or `end`. Eight are looked at together, by
-/// instructions that every x86-64 has.
-template <class Meets>
-const double* FindFirst(const double* at, const double* end, double x, Meets meets) noexcept {
-  const __m128d both = _mm_set1_pd(x);
-  const auto pair = [&](const double* numbers) {
-    return reinterpret_cast<__m128d>(meets(_mm_loadu_pd(numbers), both));
+constexpr std::size_t Index(std::integral auto number) noexcept {
+  return static_cast<std::size_t>(number);
+}
+
+/// Where an asked temperature stands among others.
+struct Place {
+  std::size_t above;  ///< the first one above it, or how many there are
+  std::size_t same;   ///< the first one equal to it, likewise
+};
+
+/// A bit for each of eight comparisons in turn, and for each of eight others.
+unsigned BitsOf(const __m128d (&ones)[4], const __m128d (&others)[4]) noexcept {
+  const auto narrow = [](const __m128d(&pairs)[4]) {
+    const auto four = [](__m128d left, __m128d right) {
+      constexpr int kLowHalves = 0b10'00'10'00;
+      return _mm_castps_si128(
+          _mm_shuffle_ps(_mm_castpd_ps(left), _mm_castpd_ps(right), kLowHalves));
+    };
+    return _mm_packs_epi32(four(pairs[0], pairs[1]), four(pairs[2], pairs[3]));
   };
-  for (; end - at >= 8; at += 8) {
-    const __m128d met[] = {pair(at), pair(at + 2), pair(at + 4), pair(at + 6)};
-    if (_mm_movemask_pd(_mm_or_pd(_mm_or_pd(met[0], met[1]), _mm_or_pd(met[2], met[3]))) != 0) {
-      const int places = _mm_movemask_pd(met[0]) | _mm_movemask_pd(met[1]) << 2 |
-                         _mm_movemask_pd(met[2]) << 4 | _mm_movemask_pd(met[3]) << 6;
-      return at + std::countr_zero(static_cast<unsigned>(places));
+  return static_cast<unsigned>(_mm_movemask_epi8(_mm_packs_epi16(narrow(ones), narrow(others))));
+}
+
+/// Looks at all temperatures, as they may be out of order, from the last ones to the first, eight
+/// at a time by instructions that every x86-64 has. Nothing but their number decides which way the
+/// program takes; nobody could guess where a search would end.
+Place FindPlace(std::span<const double> temperatures, double x) noexcept {
+  constexpr std::size_t kTogether = 8;
+  const std::size_t count = temperatures.size();
+  Place found{count, count};
+  if (count < kTogether) {
+    const auto isAbove = [x](double other) { return other > x; };
+    return {Index(std::ranges::find_if(temperatures, isAbove) - temperatures.begin()),
+            Index(std::ranges::find(temperatures, x) - temperatures.begin())};
+  }
+  const __m128d asked = _mm_set1_pd(x);
+  for (std::size_t left = count; left > 0;) {
+    left = std::max(left, kTogether) - kTogether;  // some are looked at twice
+    __m128d above[4];
+    __m128d same[4];
+    for (std::size_t pair = 0; pair < 4; ++pair) {
+      const __m128d two = _mm_loadu_pd(&temperatures[left + 2 * pair]);
+      above[pair] = _mm_cmpgt_pd(two, asked);
+      same[pair] = _mm_cmpeq_pd(two, asked);
+    }
+    const unsigned bits = BitsOf(above, same);
+    const std::size_t first = left + Index(std::countr_zero(bits));
+    found.above = (bits & 0xFF) != 0 ? first : found.above;
+    if (bits > 0xFF) {
+      found.same = left + Index(std::countr_zero(bits >> kTogether));
     }
   }
-  return std::find_if(at, end, [&](double number) { return meets(number, x); });
+  return found;
 }
 
 }  // namespace
@@ -67,21 +105,16 @@ double CmqTemperatureCurve::GetYValueAt(double x) const noexcept {
   if (x >= X[count - 1]) {
     return Y[count - 1];
   }
-  const double* const end = X + count;
-  const auto isNotBelow = [](auto other, auto asked) { return other >= asked; };
-  const double* const above = mqp::FindFirst(X + 1, end, x, isNotBelow);
-  if (above == end) {  // the last temperature is not a number
+  const mqp::Place place = mqp::FindPlace({X, count}, x);
+  if (place.same < count) {  // also when it stands behind its interval
+    return Y[place.same];
+  }
+  if (place.above == count) {  // the last temperature is not a number
     return Y[count - 1];
   }
-  // A point of its own goes before the interval, also when it stands behind it.
-  const auto isSame = [](auto other, auto asked) { return other == asked; };
-  const double* const exact = mqp::FindFirst(above, end, x, isSame);
-  if (exact != end) {
-    return Y[exact - X];
-  }
-  const auto hi = static_cast<std::size_t>(above - X);
-  const std::size_t lo = hi - 1;
-  if (Y[hi] == Y[lo]) {  // the temperatures differ: that of lo is below x, or no number
+  const std::size_t hi = place.above;
+  const std::size_t lo = hi - 1;  // the first one is below
+  if (Y[hi] == Y[lo]) {           // the temperatures differ: that of lo is below x, or no number
     return Y[hi];
   }
   return Y[hi] + (Y[lo] - Y[hi]) * (x - X[hi]) / (X[lo] - X[hi]);

@@ -351,6 +351,12 @@ TEST(TemperatureCurve, EachPointOfALongCurveIsFoundInAndOutOfOrder) {
       CurveState gap = rising;
       gap.temperatures[static_cast<std::size_t>(point)] = kNaN;
       ExpectValues({{gap, x, kNaN}, {gap, x - 5.0, kNaN}, {gap, x - 10.0, point - 1.0}});
+      // One far above all that stand behind it, in front of which the value is the same.
+      CurveState peak = rising;
+      peak.temperatures[static_cast<std::size_t>(point)] = 1e6;
+      peak.values[static_cast<std::size_t>(point)] = 1000.0 + point;
+      peak.values[static_cast<std::size_t>(point) - 1] = 1000.0 + point;
+      ExpectValues({{peak, 10.0 * (points - 1) - 5.0, 1000.0 + point}});
       // A temperature out of order, at each place behind the one where it belongs.
       for (int stray = point; stray < points - 1; ++stray) {
         CurveState state = rising;
