@@ -248,14 +248,28 @@ constexpr auto kStudiesIndex = [] {
   return index;
 }();
 
+constexpr When kOtherMesh = When::AnyMeshButSolid;
+constexpr When kRotationalMesh = kOtherMesh | When::Rotational;
+constexpr When kBeamMesh = kRotationalMesh | When::BeamMesh;
+
+/// What holds for each kind of mesh, without and with elements that have rotations.
+// clang-format off
+constexpr std::array<std::array<When, 2>, 6> kMeshes = {{
+    { When::Always,      When::Always },     // SolidMesh
+    { kOtherMesh,        kOtherMesh },       // 1 is unknown
+    { kRotationalMesh,   kRotationalMesh },  // ShellMesh
+    { kOtherMesh,        kRotationalMesh },  // MixedMesh
+    { kBeamMesh,         kBeamMesh },        // BeamMesh
+    { kOtherMesh,        kOtherMesh },       // unknown
+}};
+// clang-format on
+
 When MeshConditions(int meshKind, int meshFlags) noexcept {
   constexpr int kRotationalFlags =
       Code(MeshFlags::RotationalElements) | Code(MeshFlags::OtherRotationalElements);
-  const bool beam = meshKind == Code(MeshKind::BeamMesh);
-  const bool mixed = meshKind == Code(MeshKind::MixedMesh) && (meshFlags & kRotationalFlags) != 0;
-  return If(beam || mixed || meshKind == Code(MeshKind::ShellMesh), When::Rotational) |
-         If(meshKind != Code(MeshKind::SolidMesh), When::AnyMeshButSolid) |
-         If(beam, When::BeamMesh);
+  const bool hasRotations = (meshFlags & kRotationalFlags) != 0;
+  return kMeshes[std::min<std::size_t>(static_cast<unsigned>(meshKind), kMeshes.size() - 1)]
+                [static_cast<std::size_t>(hasRotations)];
 }
 
 }  // namespace
@@ -273,9 +287,13 @@ int vekPostCommonGetComponentTotal(int analysisType, int resultType, int extraSt
                                    int /*ignored*/, int moreStress, int meshFlags,
                                    int dynamicOption, int dynamicChoice) noexcept {
   using namespace mqp;
-  const When given = MeshConditions(meshKind, meshFlags) | If(extraStress != 0, When::ExtraStress) |
-                     If(extraStress != 0 && moreStress != 0, When::ExtraAndMoreStress) |
-                     If(dynamicOption == 1 && dynamicChoice == 7, When::WideDynamicStress);
+  const bool hasExtra = extraStress != 0;
+  const bool hasMore = moreStress != 0;
+  const bool isOption1 = dynamicOption == 1;
+  const bool isChoice7 = dynamicChoice == 7;
+  const When given = MeshConditions(meshKind, meshFlags) | If(hasExtra, When::ExtraStress) |
+                     If(hasExtra & hasMore, When::ExtraAndMoreStress) |
+                     If(isOption1 & isChoice7, When::WideDynamicStress);
   return kCountIndex[CellOf(analysisType, resultType)].Pick(given);
 }
 

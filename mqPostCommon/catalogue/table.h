@@ -167,8 +167,9 @@ enum class When : std::uint16_t {
 };
 // clang-format on
 
+/// Without a jump: nobody could guess what is asked for next.
 constexpr When If(bool holds, When condition) noexcept {
-  return holds ? condition : When::Always;
+  return static_cast<When>(static_cast<unsigned>(holds) * static_cast<unsigned>(condition));
 }
 constexpr When operator|(When left, When right) noexcept {
   return static_cast<When>(static_cast<unsigned>(left) | static_cast<unsigned>(right));
@@ -511,14 +512,12 @@ consteval auto MakeIndex() {
 /// Of the rows of one cell, in their order, the first whose condition holds.
 struct Choice {
   std::array<When, 2> conditions;
-  std::array<std::uint8_t, 2> values;
-  std::uint8_t otherwise;
+  std::array<std::uint8_t, 4> values;  ///< while none holds, the first, the second, both
 
   [[nodiscard]] constexpr int Pick(When given) const noexcept {
-    if (Holds(given, conditions[0])) {
-      return values[0];
-    }
-    return Holds(given, conditions[1]) ? values[1] : otherwise;
+    const auto first = static_cast<std::size_t>(Holds(given, conditions[0]));
+    const auto second = static_cast<std::size_t>(Holds(given, conditions[1]));
+    return values[first + 2 * second];
   }
 };
 
@@ -530,13 +529,15 @@ consteval ChoiceIndex MakeChoices() {
   std::array<std::size_t, kCells> conditions{};
   for (const ChoiceRow& row : Rows) {
     ForEachCell(row, [&](std::size_t cell) {
+      Choice& choice = index[cell];
       if (row.when == When::Always) {
-        index[cell].otherwise = row.value;
-      } else {
-        const std::size_t place = conditions[cell]++;
-        index[cell].conditions.at(place) = row.when;
-        index[cell].values.at(place) = row.value;
+        choice.values[0] = row.value;
+        return;
       }
+      const std::size_t place = conditions[cell]++;
+      choice.conditions.at(place) = row.when;
+      choice.values[1 + place] = row.value;
+      choice.values[3] = place == 0 ? row.value : choice.values[3];
     });
   }
   return index;

@@ -20,9 +20,8 @@ namespace mqp {
 /// and never followed.
 ///
 /// The element range stands within the first 16 bytes, so a scan for an element reads one cache
-/// line of each component that does not hold it. Neither putting the flags beside the range nor
-/// padding the component to whole cache lines is faster (`bench/component_layout_bench.cpp`);
-/// only ranges in an array of their own would be, and the members are open to the host.
+/// line of each component that does not hold it. Ranges in an array of their own would be faster,
+/// but the members are open to the host.
 struct AsmCompMembers {
   // clang-format off
   int       m_nCompID = 0;                           ///< component number of the host

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -10,6 +9,8 @@
 #include <unordered_set>
 #include <utility>
 #include <vector>
+
+#include <emmintrin.h>
 
 #include <mqPostCommon/display/assembly_list.h>
 #include <mqPostCommon/lists/pairs.h>
@@ -37,7 +38,8 @@ std::span<CDspAsmComp> Components(List& list) noexcept {
 /// The first component that meets a condition, or null.
 const CDspAsmComp* FindFirst(const List& list, auto meets) noexcept {
   const std::span<const CDspAsmComp> components = Components(list);
-  const auto found = std::ranges::find_if(components, meets);
+  // Not std::ranges::find_if, whose loop asks after each component whether it was the last.
+  const auto found = std::find_if(components.begin(), components.end(), meets);
   return found == components.end() ? nullptr : &*found;
 }
 
@@ -81,39 +83,33 @@ constexpr bool HasRangeOffZero(const CDspAsmComp& component) noexcept {
 }
 
 using Colors = CArray<COGLColor, COGLColor>;
-using ColorParts = std::array<float, 4>;
-using ColorBits = std::array<std::uint64_t, 2>;
 
-/// A colour that is not made of numbers equals no other.
-bool IsOfNumbers(const COGLColor& color) noexcept {
-  const auto parts = std::bit_cast<ColorParts>(color);
-  return std::ranges::none_of(parts, [](float part) { return std::isnan(part); });
+/// A colour that is not made of numbers equals none, not even itself.
+bool AreEqual(__m128 left, __m128 right) noexcept {
+  constexpr int kAllParts = 0b1111;
+  return _mm_movemask_ps(_mm_cmpeq_ps(left, right)) == kAllParts;
 }
 
-/// The same for colours of numbers that are equal: -0 becomes 0.
-ColorBits BitsOf(const COGLColor& color) noexcept {
-  auto parts = std::bit_cast<ColorParts>(color);
-  for (float& part : parts) {
-    part += 0.0F;
-  }
-  return std::bit_cast<ColorBits>(parts);
-}
-
-std::uint32_t KeyOf(const ColorBits& bits) noexcept {
+/// The same for equal colours: -0 becomes 0.
+std::uint32_t KeyOf(__m128 color) noexcept {
   constexpr std::uint64_t kGoldenRatio = 0x9E3779B97F4A7C15U;
+  const auto bits =
+      std::bit_cast<std::array<std::uint64_t, 2>>(_mm_add_ps(color, _mm_setzero_ps()));
   return static_cast<std::uint32_t>((bits[0] * kGoldenRatio ^ bits[1]) * kGoldenRatio >> 32);
 }
 
 /// Whether `colors` lacks a colour. `places` knows where each of them is, and takes note that this
 /// one comes next.
 bool IsNew(const COGLColor& color, const Colors& colors, KeyTable& places) {
-  if (!IsOfNumbers(color)) {
+  const auto parts = std::bit_cast<__m128>(color);
+  if (!AreEqual(parts, parts)) {
     return true;
   }
-  const ColorBits bits = BitsOf(color);
   const int next = colors.GetSize();
-  const auto isSame = [&](int place) { return BitsOf(colors[place]) == bits; };
-  return places.FindOrAdd(KeyOf(bits), next, isSame) == next;
+  const auto isSame = [&](int place) {
+    return AreEqual(std::bit_cast<__m128>(colors[place]), parts);
+  };
+  return places.FindOrAdd(KeyOf(parts), next, isSame) == next;
 }
 
 int CompareKeys(const void* left, const void* right) noexcept {
@@ -349,7 +345,10 @@ int CDspAsmCompList::MakeColorList(CArray<COGLColor, COGLColor>* colors,
   colors->RemoveAll();
   bottomColors->RemoveAll();
   mqp::KeyTable places;
-  for (const CDspAsmComp& component : mqp::Components(*this)) {
+  const std::span<const CDspAsmComp> components = mqp::Components(*this);
+  for (std::size_t place = 0; place < components.size(); ++place) {
+    mqp::FetchAhead(components, place, &CDspAsmComp::m_Color);
+    const CDspAsmComp& component = components[place];
     const bool isFirst = colors->IsEmpty();
     if (!mqp::IsNew(component.m_Color, *colors, places)) {
       continue;

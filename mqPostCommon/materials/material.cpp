@@ -1,5 +1,7 @@
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <span>
 #include <string>
 #include <utility>
 
@@ -212,11 +214,14 @@ unsigned long long CmqpMaterialDataList::GetUniqueMaterialList(std::vector<int>&
   indices.assign(1, 0);
   mqp::TextTable names;
   std::basic_string<mqChar> folded;
-  for (int index = 0; index < m_arrMaterials.GetSize(); ++index) {
+  const std::span<const CmqpMaterialData> materials(
+      m_arrMaterials.GetData(), static_cast<std::size_t>(m_arrMaterials.GetSize()));
+  for (std::size_t place = 0; place < materials.size(); ++place) {
+    mqp::FetchAhead(materials, place, &CmqpMaterialData::m_strMaterialName);
     const int known = names.GetSize();
-    mqp::FoldText(m_arrMaterials[index].m_strMaterialName.View(), folded);
-    if (names.FindOrAdd(folded) == known && index > 0) {
-      indices.push_back(index);
+    mqp::FoldText(materials[place].m_strMaterialName.View(), folded);
+    if (names.FindOrAdd(folded) == known && place > 0) {
+      indices.push_back(static_cast<int>(place));
     }
   }
   return indices.size();
