@@ -53,9 +53,10 @@ Place FindPlace(std::span<const double> temperatures, double x) noexcept {
   const std::size_t count = temperatures.size();
   Place found{count, count};
   if (count < kTogether) {
-    const auto isAbove = [x](double other) { return other > x; };
-    return {Index(std::ranges::find_if(temperatures, isAbove) - temperatures.begin()),
-            Index(std::ranges::find(temperatures, x) - temperatures.begin())};
+    const auto isNotBelow = [x](double other) { return other >= x; };
+    const auto first = std::ranges::find_if(temperatures, isNotBelow);
+    return {Index(first - temperatures.begin()),
+            Index(std::find(first, temperatures.end(), x) - temperatures.begin())};
   }
   const __m128d asked = _mm_set1_pd(x);
   for (std::size_t left = count; left > 0;) {

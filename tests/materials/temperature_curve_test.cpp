@@ -356,7 +356,10 @@ TEST(TemperatureCurve, EachPointOfALongCurveIsFoundInAndOutOfOrder) {
       peak.temperatures[static_cast<std::size_t>(point)] = 1e6;
       peak.values[static_cast<std::size_t>(point)] = 1000.0 + point;
       peak.values[static_cast<std::size_t>(point) - 1] = 1000.0 + point;
-      ExpectValues({{peak, 10.0 * (points - 1) - 5.0, 1000.0 + point}});
+      const double belowTheLast = 10.0 * (points - 1) - 5.0;
+      ExpectValues({{peak, belowTheLast, 1000.0 + point}});
+      peak.temperatures[static_cast<std::size_t>(point)] = belowTheLast;
+      ExpectValues({{peak, belowTheLast, 1000.0 + point}});
       // A temperature out of order, at each place behind the one where it belongs.
       for (int stray = point; stray < points - 1; ++stray) {
         CurveState state = rising;
