@@ -1,6 +1,7 @@
 /// \file
-/// A family of operations, each in all of its variants: ours, those of the peers, and the limit
-/// that no code can pass. `bench/run` makes the tables of what the programs measure.
+/// A family of operations, each in all of its variants: ours, those of the peers, and the limit,
+/// which is what the least of it costs: a call, a copy, a look at each record. `bench/run` makes
+/// the tables of what the programs measure.
 #pragma once
 
 #include <array>

@@ -8,7 +8,6 @@ import collections
 
 Goal = collections.namedtuple("Goal", "most than")
 # `bound_by_memory`: the times of rows that wait for memory differ more from run to run.
-# `largest`: the goals are for so many records at most.
 Row = collections.namedtuple("Row", "operation goals bound_by_memory largest", defaults=[False, None])
 
 LIMIT = "limit"
@@ -21,7 +20,8 @@ def rows(operations, *goals, **about):
 
 
 # By program, in the order of the table. An operation that grows with a number of records has a
-# time for each number, and the goals hold for all of them.
+# time for each number, and the goals hold for all of them up to `largest`: a curve has few points,
+# and as they may be out of order all of them are looked at.
 FAMILIES = {
     "mqCatalogueBench": [
         *rows(["component total", "data type with members", "default component",

@@ -48,7 +48,7 @@ def main():
     rows = list(read_rows(arguments.results))
     if not rows:
         sys.exit(f"table.py: no check has left a result in {arguments.results}")
-    commit = subprocess.run(["git", "rev-parse", "--short", "HEAD"], cwd=ROOT, capture_output=True, text=True)
+    commit = subprocess.run(["git", "describe", "--always", "--dirty"], cwd=ROOT, capture_output=True, text=True)
     lines = ["# What was proved", "",
              f"Made by the checks themselves (`./dev prove`, or `./dev soak` for nights) at commit "
              f"{commit.stdout.strip() or 'unknown'}; not edited by hand.", "",

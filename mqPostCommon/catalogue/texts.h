@@ -18,7 +18,8 @@ inline CString LoadText(UINT id) {
 }
 
 /// The part of a longer text by which names are compared and columns titled: its first six code
-/// units, cut before a colon and then before a blank that do not stand in front.
+/// units, cut before a colon and then before a blank that do not stand in front. It lies in the
+/// text.
 mqTextView KeyOf(mqTextView text) noexcept;
 
 }  // namespace mqp

@@ -12,8 +12,8 @@
 
 namespace mqp {
 
-/// A text in memory of which `kUnits` units may be read, however short it is: all of them are
-/// copied, as no processor could guess how long the next text is.
+/// A text in memory of which `kUnits` units may be read, however short it is: of one that is
+/// shorter all of them are copied, as no processor could guess how long the next text is.
 struct PaddedText {
   static constexpr std::size_t kUnits = 44;
 
@@ -26,7 +26,7 @@ struct PaddedText {
 /// memory of their own, which `Assign` and `Erase` keep when the text becomes shorter.
 ///
 /// A function that needs memory throws `std::bad_alloc` when there is none, and the text is as it
-/// was. The texts handed in may be parts of this one.
+/// was. The views handed in may be parts of this text.
 class TextStore {
  public:
   /// The longest text without an allocation. A zero stands behind it.

@@ -87,7 +87,7 @@ class Workshop:
     def wine(self):
         """The command that a Windows program is started with, and its environment."""
         prefix = ROOT / "build" / "wine"
-        environment = {"WINEPREFIX": str(prefix), "WINEDEBUG": "-all", "DISPLAY": ""}
+        environment = {"WINEPREFIX": str(prefix), "WINEDEBUG": "-all", "DISPLAY": "", "LC_ALL": "C.UTF-8"}
         program = shutil.which("wine64", path=os.environ["PATH"] + ":/usr/lib/wine")
         demand(program, "wine64 is not installed")
         if not (prefix / "drive_c").exists():

@@ -14,7 +14,7 @@ import re
 
 LIST = pathlib.Path(__file__).with_name("equivalents.json")
 CELL_SIZE = 10    # of an index: two lists, of which the first value and the count, and a condition
-CHOICE_SIZE = 8   # two conditions, then by bytes their two values and the one otherwise
+CHOICE_SIZE = 8   # two conditions, then by bytes what is chosen while none, the first, the second, both hold
 
 
 def number_at(table, place):
@@ -56,7 +56,9 @@ def reads_the_same(table, mutant):
 
 
 def has_no_such_condition(table, mutant):
-    return number_at(table, mutant.rows[0] * CHOICE_SIZE + 2 * mutant.rows[1]) == 0
+    row, held = mutant.rows
+    return any(held >> place & 1 and number_at(table, row * CHOICE_SIZE + 2 * place) == 0
+               for place in (0, 1))
 
 
 def chooses_zero_alone(table, mutant):

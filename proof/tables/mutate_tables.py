@@ -319,7 +319,7 @@ def place_of(table, mutant):
     meaning = ""
     if mutant.rows:
         row = mutant.rows[0]
-        if ".cells" in path or re.match(r"\[\d+\]\.(conditions|values|otherwise)", path):
+        if ".cells" in path or re.match(r"\[\d+\]\.(conditions|values)", path):
             meaning = f" (study {row // 74}, result {row % 74})"
         elif path.startswith(".values[") and table.name.endswith("Index"):
             meaning = f" ({users_of(table, row)})"
