@@ -104,9 +104,8 @@ constexpr auto kCandidateIndex = MakeIndex<Candidate{kNoName, 0}, kCandidates>()
 constexpr int kNotFound = -1;
 constexpr int kNoResultType = 9999;
 
-/// \param buffer whatever it holds goes; its room takes the name
+/// \param buffer takes the name; what a host leaves in it for an unknown id has been tried before
 bool NameBeginsWith(NameId id, mqTextView key, CString& buffer) {
-  buffer.Empty();  // a host may leave it for an unknown id
   mqpLoadString(buffer, id);
   return buffer.View().starts_with(key);
 }

@@ -46,8 +46,8 @@ unsigned BitsOf(const __m128d (&ones)[4], const __m128d (&others)[4]) noexcept {
 }
 
 /// Looks at all temperatures, as they may be out of order, from the last ones to the first, eight
-/// at a time by instructions that every x86-64 has. Where the first one above stands decides over
-/// no jump, as nobody could guess it; only a few temperatures are searched one by one.
+/// at a time by instructions that every x86-64 has. No jump depends on where the first one above
+/// stands, as nobody could guess it; only a few temperatures are searched one by one.
 Place FindPlace(std::span<const double> temperatures, double x) noexcept {
   constexpr std::size_t kTogether = 8;
   const std::size_t count = temperatures.size();
