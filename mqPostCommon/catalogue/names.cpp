@@ -1,7 +1,11 @@
+#include <algorithm>
+#include <cstddef>
+
 #include <mqPostCommon/catalogue/display_flag.h>
 #include <mqPostCommon/catalogue/name_ids.h>
 #include <mqPostCommon/catalogue/names.h>
 #include <mqPostCommon/catalogue/texts.h>
+#include <mqPostCommon/platform/find_unit.h>
 
 namespace mqp {
 namespace {
@@ -227,8 +231,8 @@ When BeamCondition(int meshKind) noexcept {
 
 /// Leaves the text before the first colon; all of it when there is none or it stands in front.
 void CutAtColon(CString& text) {
-  if (const int colon = text.Find(MQ_TEXT(':')); colon > 0) {
-    text.Delete(colon, text.GetLength());
+  if (const std::size_t colon = FindUnit(text.View(), MQ_TEXT(':')); colon > 0) {
+    text.Delete(static_cast<int>(colon), text.GetLength());
   }
 }
 
@@ -271,7 +275,8 @@ CString vekPostCommonGetComponentNameShort(int analysisType, int resultType, int
 CString vekPostCommonGetComponentNameBrief(int analysisType, int resultType, int /*passOn*/,
                                            int component) {
   using namespace mqp;
-  return LoadText(kBriefIndex.At(analysisType, resultType, ModeCondition(), component));
+  const int result = std::max(resultType, 0);  // a negative one is below 2 as well
+  return LoadText(kBriefIndex.At(analysisType, result, ModeCondition(), component));
 }
 
 CString vekPostCommonGetGraphNameForReport(int analysisType, int resultType, int chartVariant,

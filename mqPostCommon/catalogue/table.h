@@ -67,23 +67,19 @@ class CodeSet {
   std::array<std::uint64_t, 2> m_words{};
 };
 
-/// A code of a study or a result as a place in a dense grid. Codes behind the last known one share
-/// one place, negative studies with them; negative result types have a place of their own, because
-/// one rule covers every result type below 2.
+/// A code of a study or a result as a place in a dense grid. Negative codes and those behind the
+/// last known one share one place.
 inline constexpr int kStudySlots = 12;
 inline constexpr int kUnknownStudySlot = kStudySlots - 1;
-inline constexpr int kResultSlots = 74;
-inline constexpr int kUnknownResultSlot = kResultSlots - 2;
-inline constexpr int kNegativeResultSlot = kResultSlots - 1;
+inline constexpr int kResultSlots = 73;
+inline constexpr int kUnknownResultSlot = kResultSlots - 1;
 inline constexpr std::size_t kCells = std::size_t{kStudySlots} * kResultSlots;
 
 constexpr std::size_t StudySlot(int analysisType) noexcept {
   return std::min<std::size_t>(static_cast<unsigned>(analysisType), kUnknownStudySlot);
 }
 constexpr std::size_t ResultSlot(int resultType) noexcept {
-  return resultType < 0
-             ? std::size_t{kNegativeResultSlot}
-             : std::min<std::size_t>(static_cast<unsigned>(resultType), kUnknownResultSlot);
+  return std::min<std::size_t>(static_cast<unsigned>(resultType), kUnknownResultSlot);
 }
 constexpr std::size_t CellOf(int analysisType, int resultType) noexcept {
   return StudySlot(analysisType) * kResultSlots + ResultSlot(resultType);
@@ -119,7 +115,7 @@ inline constexpr StudySet kStressStudies = kTimeStudies | AnalysisType::Static;
 
 /// The results that share rules.
 inline constexpr ResultSet kAnyResult{CodeSet::Range(0, kResultSlots - 1)};
-inline constexpr ResultSet kResultsBelow2{CodeSet{0, 1, kNegativeResultSlot}};
+inline constexpr ResultSet kResultsBelow2{CodeSet{0, 1}};
 inline constexpr ResultSet kStrains = ResultType::Strain | ResultType::StrainAlt;
 inline constexpr ResultSet kStresses = ResultType::Stress | ResultType::StressAlt;
 inline constexpr ResultSet kMotions = ResultType::Velocity | ResultType::Acceleration;
@@ -341,8 +337,7 @@ struct ValueList {
 };
 
 struct Cell {
-  ValueList plain;
-  ValueList special;  ///< taken instead while the condition holds
+  std::array<ValueList, 2> lists;  ///< the plain one, and what is taken while the condition holds
   When condition;
 };
 
@@ -354,8 +349,8 @@ struct ComponentIndex {
   [[nodiscard]] constexpr ValueList ListOf(int analysisType, int resultType,
                                            When given) const noexcept {
     const Cell& cell = cells[CellOf(analysisType, resultType)];
-    // The address is chosen, without a jump: nobody could guess whether the condition holds.
-    return *(Holds(given, cell.condition) ? &cell.special : &cell.plain);
+    // Without a jump: nobody could guess whether the condition holds.
+    return cell.lists[static_cast<std::size_t>(Holds(given, cell.condition))];
   }
   /// The value of a component; a negative one counts as beyond the list.
   [[nodiscard]] constexpr const V& At(int analysisType, int resultType, When given,
@@ -472,7 +467,7 @@ constexpr BuiltIndex<typename Row::Value> BuildIndex(typename Row::Value nothing
   const ValueList nothingList = pool.Keep({nothing});
   for (std::size_t cell = 0; cell < kCells; ++cell) {
     if (covering[cell].empty()) {
-      built.cells[cell] = {nothingList, nothingList, When::Always};
+      built.cells[cell] = {{nothingList, nothingList}, When::Always};
       continue;
     }
     if (cell > 0 && std::ranges::equal(covering[cell], covering[cell - 1],
@@ -488,11 +483,10 @@ constexpr BuiltIndex<typename Row::Value> BuildIndex(typename Row::Value nothing
       condition = condition | row->when;
     }
     const ValueList plain = pool.Keep(MergeRows(covering[cell], When::Always, nothing));
-    built.cells[cell] = {plain,
-                         condition == When::Always
-                             ? plain
-                             : pool.Keep(MergeRows(covering[cell], condition, nothing)),
-                         condition};
+    const ValueList special = condition == When::Always
+                                  ? plain
+                                  : pool.Keep(MergeRows(covering[cell], condition, nothing));
+    built.cells[cell] = {{plain, special}, condition};
   }
   built.values = pool.Values();
   return built;

@@ -50,10 +50,10 @@ class MQPOSTCOMMON_API CmqEquationVariable : public CObject {
   [[nodiscard]] static std::vector<mqp::RecordField> GetRecordFields();
 
   // clang-format off
-  CString m_strName = MQ_TEXT("Variable");  ///< the placeholder; those of a plot have double-quote characters
-  int     m_nResultType = 2;                ///< a `ResultType`; -1 for an unknown operand
-  int     m_nComponent = 9;                 ///< 0-based component of the result; -1 for an unknown one
-  double  m_dCoefficient = 1.0;             ///< factor of the operand, without a unit
+  CString m_strName{MQ_TEXT("Variable"), 8};  ///< the placeholder; those of a plot have double-quote characters
+  int     m_nResultType = 2;                  ///< a `ResultType`; -1 for an unknown operand
+  int     m_nComponent = 9;                   ///< 0-based component of the result; -1 for an unknown one
+  double  m_dCoefficient = 1.0;               ///< factor of the operand, without a unit
   // clang-format on
 };
 

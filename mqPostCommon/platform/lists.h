@@ -4,6 +4,8 @@
 /// is removed.
 #pragma once
 
+#include <memory>
+#include <ranges>
 #include <utility>
 
 #include <mqPostCommon/platform/wide_string.h>
@@ -25,11 +27,11 @@ class CObject {
 
 namespace mqp {
 
-/// A doubly linked list of values, each in a node of its own. It owns the nodes; what the values
-/// point to is the caller's. As in the framework it is not copied by itself; a list that is moved
-/// takes its nodes and their positions along and leaves an empty one. Positions handed in must come
-/// from this list and not be null unless said otherwise; an empty list has no head and no tail to
-/// return or remove.
+/// A doubly linked list of values. It owns its nodes, for which it takes memory ten by ten and gives
+/// it back when it becomes empty; what the values point to is the caller's. As in the framework it
+/// is not copied by itself; a list that is moved takes its nodes and their positions along and
+/// leaves an empty one. Positions handed in must come from this list and not be null unless said
+/// otherwise; an empty list has no head and no tail to return or remove.
 ///
 /// An element that is added takes memory: when there is none the function throws `std::bad_alloc`
 /// and the list is as it was.
@@ -42,12 +44,16 @@ class LinkedList {
   LinkedList(LinkedList&& other) noexcept
       : m_head(std::exchange(other.m_head, nullptr)),
         m_tail(std::exchange(other.m_tail, nullptr)),
-        m_count(std::exchange(other.m_count, 0)) {}
+        m_count(std::exchange(other.m_count, 0)),
+        m_free(std::exchange(other.m_free, nullptr)),
+        m_blocks(std::exchange(other.m_blocks, nullptr)) {}
   LinkedList& operator=(LinkedList&& other) noexcept {
     LinkedList taken(std::move(other));
     std::swap(m_head, taken.m_head);
     std::swap(m_tail, taken.m_tail);
     std::swap(m_count, taken.m_count);
+    std::swap(m_free, taken.m_free);
+    std::swap(m_blocks, taken.m_blocks);
     return *this;
   }
   ~LinkedList() { RemoveAll(); }
@@ -107,12 +113,17 @@ class LinkedList {
   Value RemoveTail() { return Extract(m_tail); }
   void RemoveAt(POSITION position) { Unlink(ToNode(position)); }
   void RemoveAll() noexcept {
-    for (const Node* node = m_head; node != nullptr;) {
-      delete std::exchange(node, node->next);
+    for (Node* node = m_head; node != nullptr; node = node->next) {
+      std::destroy_at(&node->value);
+    }
+    for (const Block* block = m_blocks; block != nullptr;) {
+      delete std::exchange(block, block->older);
     }
     m_head = nullptr;
     m_tail = nullptr;
     m_count = 0;
+    m_free = nullptr;
+    m_blocks = nullptr;
   }
 
   /// The position of the first element equal to `value` behind `startAfter` (from the head when
@@ -138,16 +149,31 @@ class LinkedList {
 
  private:
   struct Node {
+    Node() noexcept {}   // NOLINT(modernize-use-equals-default): without a value
+    ~Node() noexcept {}  // NOLINT(modernize-use-equals-default)
+
     Node* previous;
-    Node* next;
-    Value value;
+    Node* next;  ///< of a free node the next free one
+    union {
+      Value value;
+    };
+  };
+  struct Block {
+    Block* older;
+    Node nodes[10];
   };
 
   static Node* ToNode(POSITION position) noexcept { return reinterpret_cast<Node*>(position); }
   static POSITION ToPosition(Node* node) noexcept { return reinterpret_cast<POSITION>(node); }
 
   POSITION Insert(Node* previous, Node* next, const Value& value) {
-    Node* node = new Node{previous, next, value};
+    if (m_free == nullptr) {
+      AddBlock();
+    }
+    std::construct_at(&m_free->value, value);
+    Node* const node = std::exchange(m_free, m_free->next);
+    node->previous = previous;
+    node->next = next;
     (previous == nullptr ? m_head : previous->next) = node;
     (next == nullptr ? m_tail : next->previous) = node;
     ++m_count;
@@ -156,18 +182,29 @@ class LinkedList {
   void Unlink(Node* node) noexcept {
     (node->previous == nullptr ? m_head : node->previous->next) = node->next;
     (node->next == nullptr ? m_tail : node->next->previous) = node->previous;
-    --m_count;
-    delete node;
+    std::destroy_at(&node->value);
+    node->next = std::exchange(m_free, node);
+    if (--m_count == 0) {
+      RemoveAll();
+    }
   }
   Value Extract(Node* node) {
     Value value = std::move(node->value);
     Unlink(node);
     return value;
   }
+  void AddBlock() {
+    m_blocks = new Block{.older = m_blocks, .nodes = {}};
+    for (Node& node : std::views::reverse(m_blocks->nodes)) {  // so that the first goes first
+      node.next = std::exchange(m_free, &node);
+    }
+  }
 
   Node* m_head = nullptr;
   Node* m_tail = nullptr;
   int m_count = 0;
+  Node* m_free = nullptr;
+  Block* m_blocks = nullptr;
 };
 
 }  // namespace mqp

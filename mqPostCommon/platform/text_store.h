@@ -4,8 +4,10 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
-#include <memory>
+#include <limits>
+#include <new>
 #include <utility>
 
 #include <mqPostCommon/platform/text.h>
@@ -25,8 +27,8 @@ struct PaddedText {
 /// has lie in the object itself, so that a name is returned without an allocation; more lie in
 /// memory of their own, which `Assign` and `Erase` keep when the text becomes shorter.
 ///
-/// A function that needs memory throws `std::bad_alloc` when there is none, and the text is as it
-/// was. The views handed in may be parts of this text.
+/// A function that needs memory throws `std::bad_alloc` when there is none, or for more units than
+/// 32 bits count, and the text is as it was. The views handed in may be parts of this text.
 class TextStore {
  public:
   /// The longest text without an allocation. A zero stands behind it.
@@ -36,7 +38,7 @@ class TextStore {
   explicit TextStore(mqTextView text) : TextStore(Room{text.size()}) { Append(text); }
   explicit TextStore(PaddedText text) : TextStore() { Assign(text); }
   TextStore(std::size_t count, mqChar unit) : TextStore(Room{count}) {
-    std::fill_n(m_units, count, unit);
+    std::fill_n(Units(), count, unit);
     Terminate(count);
   }
   TextStore(const TextStore& other) : TextStore(other.Padded()) {}
@@ -49,15 +51,16 @@ class TextStore {
   }
   TextStore& operator=(TextStore&& other) noexcept {
     if (this != &other) {
+      Free();
       Take(other);
     }
     return *this;
   }
-  ~TextStore() = default;
+  ~TextStore() { Free(); }
 
-  [[nodiscard]] mqTextView View() const noexcept { return {m_units, m_length}; }
-  [[nodiscard]] const mqChar* Units() const noexcept { return m_units; }
-  [[nodiscard]] mqChar* Units() noexcept { return m_units; }
+  [[nodiscard]] mqTextView View() const noexcept { return {Units(), m_length}; }
+  [[nodiscard]] const mqChar* Units() const noexcept { return IsOwn() ? m_own : m_memory; }
+  [[nodiscard]] mqChar* Units() noexcept { return IsOwn() ? m_own : m_memory; }
   [[nodiscard]] std::size_t Length() const noexcept { return m_length; }
 
   /// Allocates only when there is no room for the text.
@@ -66,7 +69,7 @@ class TextStore {
       *this = TextStore(text);
       return;
     }
-    std::char_traits<mqChar>::move(m_units, text.data(), text.size());
+    std::char_traits<mqChar>::move(Units(), text.data(), text.size());
     Terminate(text.size());
   }
   /// The same with a text that is no part of this one.
@@ -75,30 +78,32 @@ class TextStore {
       Assign(mqTextView(text.units, text.length));
       return;
     }
-    std::memcpy(m_units, text.units, sizeof m_own);
+    std::memcpy(Units(), text.units, sizeof m_own);
     Terminate(text.length);
   }
   /// Appending again and again allocates as often as the length doubles.
   void Append(mqTextView text) {
     const std::size_t length = m_length + text.size();
     if (length > m_room) {
-      TextStore longer(Room{std::max(length, 2 * m_room)});
+      TextStore longer(Room{std::max(length, 2 * std::size_t{m_room})});
       longer.Append(View());
       longer.Append(text);
       *this = std::move(longer);
       return;
     }
-    std::copy_n(text.data(), text.size(), m_units + m_length);
+    std::copy_n(text.data(), text.size(), Units() + m_length);
     Terminate(length);
   }
   /// Removes the units from `first` up to `last`, which the text has.
   void Erase(std::size_t first, std::size_t last) noexcept {
+    mqChar* const units = Units();
     Terminate(static_cast<std::size_t>(
-        std::copy(m_units + last, m_units + m_length, m_units + first) - m_units));
+        std::copy(units + last, units + m_length, units + first) - units));
   }
 
  private:
-  [[nodiscard]] PaddedText Padded() const noexcept { return {m_units, m_length}; }
+  [[nodiscard]] PaddedText Padded() const noexcept { return {Units(), m_length}; }
+  [[nodiscard]] bool IsOwn() const noexcept { return m_room == kOwnRoom; }
 
   struct Room {
     std::size_t units;
@@ -106,34 +111,37 @@ class TextStore {
   /// Empty, with room for so many units.
   explicit TextStore(Room room) {
     if (room.units > kOwnRoom) {
-      m_memory = std::make_unique_for_overwrite<mqChar[]>(room.units + 1);
-      m_units = m_memory.get();
-      m_room = room.units;
+      if (room.units > std::numeric_limits<std::uint32_t>::max()) {
+        throw std::bad_alloc();
+      }
+      m_memory = new mqChar[room.units + 1];
+      m_room = static_cast<std::uint32_t>(room.units);
     }
     Terminate(0);
   }
   void Terminate(std::size_t length) noexcept {
-    m_length = length;
-    m_units[length] = 0;
+    m_length = static_cast<std::uint32_t>(length);
+    Units()[length] = 0;
   }
-  /// From another one, which is empty then; of this one nothing is kept.
-  void Take(TextStore& other) noexcept {
-    m_memory = std::move(other.m_memory);
-    m_units = m_memory == nullptr ? m_own : m_memory.get();
-    m_room = std::exchange(other.m_room, kOwnRoom);
-    if (m_memory == nullptr) {
-      std::memcpy(m_own, other.m_own, sizeof m_own);
+  void Free() noexcept {
+    if (!IsOwn()) {
+      delete[] m_memory;
     }
-    Terminate(other.m_length);
-    other.m_units = other.m_own;
+  }
+  /// From another one, which is empty then; what this one held is lost.
+  void Take(TextStore& other) noexcept {
+    std::memcpy(m_own, other.m_own, sizeof m_own);
+    m_length = other.m_length;
+    m_room = std::exchange(other.m_room, kOwnRoom);
     other.Terminate(0);
   }
 
-  std::unique_ptr<mqChar[]> m_memory;
-  mqChar* m_units = m_own;
-  std::size_t m_length;
-  std::size_t m_room = kOwnRoom;
-  mqChar m_own[kOwnRoom + 1];
+  std::uint32_t m_length;
+  std::uint32_t m_room = kOwnRoom;  ///< more of it lies in `m_memory`
+  union {
+    mqChar m_own[kOwnRoom + 1];
+    mqChar* m_memory;
+  };
 };
 
 }  // namespace mqp

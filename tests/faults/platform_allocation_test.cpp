@@ -207,9 +207,10 @@ std::string DescribeList(const CStringList& list) {
   return text;
 }
 
+/// A list has no room left when it has ten elements.
 TEST_F(AllocationFailures, InAListOfTexts) {
   using List = CStringList;
-  const Subject<List> subject = {"CStringList", [] { return StringList(3); },
+  const Subject<List> subject = {"CStringList", [] { return StringList(10); },
                                  [] { return StringList(4); }, DescribeList};
   // clang-format off
   Try(subject, {{
@@ -266,8 +267,9 @@ std::string DescribeThings(const Things& things) {
 TEST_F(AllocationFailures, InAListOfPointers) {
   const auto make = [] {
     Things things;
-    things.AddTail(nullptr);
-    things.AddTail(nullptr);
+    for (int number = 0; number < 10; ++number) {
+      things.AddTail(nullptr);
+    }
     return things;
   };
   const Subject<Things> subject = {"CTypedPtrList", make, make, DescribeThings};
@@ -282,8 +284,22 @@ TEST_F(AllocationFailures, InAListOfPointers) {
       {"RemoveHead",   kNeverFails, [](Things& list, Things&) { list.RemoveHead(); }},
       {"RemoveTail",   kNeverFails, [](Things& list, Things&) { list.RemoveTail(); }},
       {"RemoveAll",    kNeverFails, [](Things& list, Things&) { list.RemoveAll(); }},
+      {"AddTail in the room of another", kNeverFails, [](Things& list, Things&) { list.RemoveAt(list.FindIndex(4)); list.AddTail(nullptr); }},
   }});
   // clang-format on
+}
+
+TEST_F(AllocationFailures, AListAllocatesForTenElementsAndGivesAllBackWithTheLast) {
+  const long blocks = CountAllocations().liveBlocks;
+  Things things;
+  for (int count = 1; count <= 25; ++count) {
+    things.AddTail(nullptr);
+    EXPECT_EQ(CountAllocations().liveBlocks - blocks, (count + 9) / 10) << count;
+  }
+  for (int count = 24; count >= 0; --count) {
+    things.RemoveAt(things.FindIndex(count / 2));
+    EXPECT_EQ(CountAllocations().liveBlocks - blocks, count > 0 ? 3 : 0) << count;
+  }
 }
 
 TEST_F(AllocationFailures, InAListThatOwnsItsObjects) {

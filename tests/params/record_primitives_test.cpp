@@ -156,6 +156,59 @@ TEST(RecordPrimitives, AFieldIsReadFromTheVersionOnThatHasIt) {
   }
 }
 
+/// What reads it into an empty list keeps what the stream does not deliver: component 9.
+TEST(RecordPrimitives, RecordsWithoutATextAreReadAsFarAsTheStreamHasThem) {
+  RecordBytes record = RecordBytes().Integer(1).Double(2.5).Text(MQ_TEXT("t")).Integer(3);
+  record.Integer(0x01010101).Integer(0x02020202).Integer(0x03030303).Integer(7);
+  const ByteString stored = record.Get();
+  const std::size_t begin = stored.size() - 16;
+  for (std::size_t delivered = 0; delivered <= 16; ++delivered) {
+    // Its bytes in the order in which they lie in the stream.
+    ByteString expected = RecordBytes().Integer(9).Integer(9).Integer(9).Integer(-1).Get();
+    std::copy_n(stored.begin() + static_cast<std::ptrdiff_t>(begin), delivered, expected.begin());
+    host::MemoryStream stream(FirstBytes(stored, begin + delivered));
+    GatedRecord read;
+    EXPECT_EQ(ReadRecord(&stream, 50, 10, read, kVisitGated), 1);
+    ASSERT_EQ(read.children.GetCount(), 3);
+    RecordBytes bytes;
+    for (POSITION position = read.children.GetHeadPosition(); position != nullptr;) {
+      bytes.Integer(read.children.GetNext(position)->m_nComponent);
+    }
+    EXPECT_EQ(ByteDifference(bytes.Integer(read.last).Get(), expected), "") << delivered;
+    EXPECT_EQ(stream.Position(), begin + delivered);
+  }
+}
+
+/// Counts how often it is read from.
+class CountingStream : public host::MemoryStream {
+ public:
+  using MemoryStream::MemoryStream;
+  HRESULT Read(void* buffer, ULONG size, ULONG* transferred) override {
+    ++calls;
+    return MemoryStream::Read(buffer, size, transferred);
+  }
+  int calls = 0;
+};
+
+TEST(RecordPrimitives, ARecordOfAListIsReadInOneCall) {
+  const auto callsFor = [](int variables) {
+    RecordBytes bytes = RecordBytes().Text(MQ_TEXT("e")).Integer(0).Integer(0).Integer(0);
+    bytes.Integer(variables);
+    for (int index = 0; index < variables; ++index) {
+      bytes.Text(MQ_TEXT("name")).Integer(1).Integer(2).Double(3.0);
+    }
+    CountingStream stream(bytes.Get());
+    CmqEquationPlotParam plot;
+    plot.ReadFromStream(&stream, 890109);
+    EXPECT_EQ(plot.m_listVariables.GetCount(), variables);
+    EXPECT_EQ(stream.Position(), stream.Bytes().size());
+    return stream.calls;
+  };
+  EXPECT_EQ(callsFor(0), 4);          // each ends with the count of a text or of the variables
+  EXPECT_EQ(callsFor(1), 4 + 1 + 1);  // the count of the first name by itself
+  EXPECT_EQ(callsFor(40), 4 + 1 + 40);
+}
+
 TEST(RecordPrimitives, MoreRecordsOfAListThanABufferHoldsAreWritten) {
   GatedRecord record;
   RecordBytes expected = RecordBytes().Integer(-1).Double(-1.0).Text(MQ_TEXT("old")).Integer(5000);

@@ -113,6 +113,30 @@ TEST(StringList, ElementsAreAddedAtBothEnds) {
   EXPECT_EQ(list.GetTail(), CString(MQ_TEXT("c")));
 }
 
+TEST(StringList, ElementsComeAndGoInManyTimesTheirRoom) {
+  CStringList list;
+  Expected expected;
+  for (int number = 0; number < 200; ++number) {
+    CString text;
+    text.Format(MQ_TEXT("%d"), number);
+    list.InsertBefore(list.FindIndex(list.GetCount() / 2), text);
+    expected.insert(expected.begin() + static_cast<int>(expected.size() / 2), text);
+    if (number % 3 == 0) {
+      const int removed = number % list.GetCount();
+      list.RemoveAt(list.FindIndex(removed));
+      expected.erase(expected.begin() + removed);
+    }
+    ASSERT_EQ(Read(list), expected) << number;
+  }
+  while (!list.IsEmpty()) {
+    EXPECT_EQ(list.RemoveHead(), expected.front());
+    expected.erase(expected.begin());
+  }
+  EXPECT_EQ(Read(list), Expected());
+  list.AddTail(MQ_TEXT("a"));
+  EXPECT_EQ(Read(list), Expected{MQ_TEXT("a")});
+}
+
 TEST_F(ThreeTexts, AreReadAndReplacedAtTheirPositions) {
   EXPECT_EQ(m_list.GetAt(m_b), CString(MQ_TEXT("b")));
   m_list.SetAt(m_b, MQ_TEXT("B"));

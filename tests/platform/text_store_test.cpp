@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstddef>
+#include <new>
 #include <string>
 #include <utility>
 #include <vector>
@@ -42,7 +43,7 @@ bool IsWithin(const TextStore& text) {
 constexpr std::size_t kLengths[] = {0, 1, 42, 43, 44, 45, 87, 88, 89, 500};
 
 TEST(TextStore, HasRoomForADisplayNameInItself) {
-  EXPECT_EQ(sizeof(TextStore), 120U);
+  EXPECT_EQ(sizeof(TextStore), 96U);
   for (const std::size_t length : kLengths) {
     EXPECT_EQ(IsWithin(TextStore(UnitsOf(length))), length <= 43) << length;
   }
@@ -182,6 +183,10 @@ TEST(TextStore, AsksForMemoryAsOftenAsItsLengthDoubles) {
   EXPECT_EQ(moves, 5);  // behind 43, 86, 172, 344 and 688 units
   text.Append(UnitsOf(2000));
   Expect(text, expected + UnitsOf(2000));
+}
+
+TEST(TextStore, HasNoMemoryForMoreUnitsThan32BitsCount) {
+  EXPECT_THROW(TextStore(std::size_t{1} << 32, MQ_TEXT('x')), std::bad_alloc);
 }
 
 TEST(TextStore, LosesTheUnitsThatAreErased) {

@@ -63,12 +63,23 @@ inline constexpr int kMaximumRecordCount = 65536;
 
 /// Stores the first so many units of a text.
 /// \param bytes room for the longest text of a record
-void StoreUnits(const CString& text, int count, std::byte* bytes);
+inline void StoreUnits(const CString& text, int count, std::byte* bytes) {
+  // What a host does not copy is zeros; before a short text they are stored without a call.
+  constexpr std::size_t kShort = 64;
+  const std::size_t size = sizeof(mqChar) * static_cast<std::size_t>(count);
+  if (size <= kShort) {
+    std::memset(bytes, 0, kShort);
+  } else {
+    std::memset(bytes, 0, size);
+  }
+  STRING2LPUSHORT(text, reinterpret_cast<unsigned short*>(bytes), kMaximumStringRecordLength);
+}
 
 /// Fills bytes from a stream and takes their first so many units for a text, up to the first zero.
 /// What the stream does not deliver of the units counts as zeros, so that it ends the text.
 /// \param bytes the units, aligned as such, and whatever else is to be read with them, which keeps
-///              what is not delivered
+///              what is not delivered; no fewer than a `PaddedText` has may be read from where they
+///              begin
 void ReadUnits(IStream& stream, std::span<std::byte> bytes, int count, CString& text);
 
 /// What goes into a stream in one call, and room behind it for what is stored before it is looked
@@ -136,12 +147,13 @@ class RecordWriter {
   std::byte* m_end;
 };
 
-/// What a record is read through. Its bytes stand in the second part as they would in a record
-/// whose texts and lists are empty: each number is a member of its own, and a text or a list takes
-/// more room in an object than its count does here. The first part is room for the units of a text.
+/// What records of one class are read through. Their bytes stand in the second part as they would
+/// in a record whose texts and lists are empty: each number is a member of its own, and a text or a
+/// list takes more room in an object than its count does here. Behind them is room for the first
+/// fields of the next record. The first part is room for the units of a text.
 template <class Object>
 struct ReadBuffer {
-  alignas(double) std::array<std::byte, kMaximumTextSize + sizeof(Object)> bytes;
+  alignas(double) std::array<std::byte, kMaximumTextSize + 2 * sizeof(Object)> bytes;
   std::array<std::byte*, sizeof(Object) / sizeof(int)> runEnds;
 };
 
@@ -171,7 +183,11 @@ class FieldStorer {
   void Records(int since, std::string_view /*name*/, const List& /*list*/, Visit /*visit*/) {
     Count(since);
   }
-  void EndRun() { *m_runEnd++ = m_end; }
+  /// \return where the end of the run is kept
+  std::byte** EndRun() {
+    *m_runEnd = m_end;
+    return m_runEnd++;
+  }
 
  private:
   template <class Value>
@@ -194,7 +210,7 @@ class FieldStorer {
 };
 
 template <class Version, class Object, class Visit>
-void ReadFields(IStream& stream, Version version, Object& object, Visit visit);
+class ObjectReader;
 
 /// Reads the fields that a document of a version has; the others keep their values. A run of
 /// numbers is read in one call, with the count behind it and the text before it, over a buffer that
@@ -203,10 +219,12 @@ void ReadFields(IStream& stream, Version version, Object& object, Visit visit);
 template <class Version>
 class RecordReader {
  public:
-  /// \param bytes what a `FieldStorer` has stored, behind room for the units of a text
-  RecordReader(IStream& stream, Version version, std::byte* bytes, std::byte** runEnds)
+  /// \param bytes       what a `FieldStorer` has stored, behind room for the units of a text
+  /// \param alreadyRead how many of the bytes are not to be read any more
+  RecordReader(IStream& stream, Version version, std::byte* bytes, std::byte** runEnds,
+               std::size_t alreadyRead)
       : m_stream(stream), m_version(version), m_bytes(bytes), m_runEnd(runEnds) {
-    ReadRun();
+    ReadRun(bytes + alreadyRead);
   }
 
   void Integers(int since, std::string_view /*name*/, std::span<int> values) {
@@ -228,10 +246,11 @@ class RecordReader {
       return;
     }
     const int count = std::min(LoadCount(), kMaximumRecordCount);
-    for (int place = 0; place < count; ++place) {
-      ReadFields(m_stream, m_version, list.Append(std::make_unique<Object>()), visit);
+    ObjectReader<Version, Object, Visit> reader(m_stream, m_version, visit);
+    for (int left = count; left > 0; --left) {
+      reader.Read(list.Append(std::make_unique<Object>()), left > 1);
     }
-    ReadRun();
+    ReadRun(m_bytes);
   }
 
  private:
@@ -255,13 +274,14 @@ class RecordReader {
     if (count > 0) {
       ReadUnits(m_stream, {m_bytes - std::ptrdiff_t{2} * count, *m_runEnd++}, count, text);
     } else {
-      ReadRun();
+      ReadRun(m_bytes);
     }
   }
-  void ReadRun() {
-    const auto size = static_cast<ULONG>(*m_runEnd++ - m_bytes);
+  /// From `begin` on, if there is anything.
+  void ReadRun(std::byte* begin) {
+    const auto size = static_cast<ULONG>(*m_runEnd++ - begin);
     if (size > 0) {
-      m_stream.Read(m_bytes, size, nullptr);
+      m_stream.Read(begin, size, nullptr);
     }
   }
 
@@ -271,16 +291,43 @@ class RecordReader {
   std::byte** m_runEnd;
 };
 
+/// Reads records of one class that lie behind each other. The fields before the first text or list
+/// of a record are read together with the end of the record before it.
 template <class Version, class Object, class Visit>
-void ReadFields(IStream& stream, Version version, Object& object, Visit visit) {
-  ReadBuffer<Object> buffer;
-  std::byte* const bytes = buffer.bytes.data() + kMaximumTextSize;
-  FieldStorer storer(version, bytes, buffer.runEnds.data());
-  visit(object, storer);
-  storer.EndRun();
-  RecordReader reader(stream, version, bytes, buffer.runEnds.data());
-  visit(object, reader);
-}
+class ObjectReader {
+ public:
+  ObjectReader(IStream& stream, Version version, Visit visit)
+      : m_stream(stream), m_version(version), m_visit(visit) {}
+
+  /// \param object has the same values each time
+  /// \param goesOn whether another record follows, which is read next
+  void Read(Object& object, bool goesOn) {
+    std::byte* const bytes = m_buffer.bytes.data() + kMaximumTextSize;
+    std::byte** const runEnds = m_buffer.runEnds.data();
+    FieldStorer storer(m_version, bytes, runEnds);
+    m_visit(object, storer);
+    std::byte*& end = *storer.EndRun();
+    const auto firstRun = static_cast<std::size_t>(*runEnds - bytes);
+    // What has been read of this record goes to its begin, and what its fields hold to its end, for
+    // those of the next one.
+    if (m_alreadyRead > 0) {
+      std::swap_ranges(bytes, bytes + firstRun, end);
+    } else if (goesOn) {
+      std::copy_n(bytes, firstRun, end);
+    }
+    end += goesOn ? firstRun : 0;
+    RecordReader reader(m_stream, m_version, bytes, runEnds, m_alreadyRead);
+    m_visit(object, reader);
+    m_alreadyRead = firstRun;
+  }
+
+ private:
+  IStream& m_stream;
+  Version m_version;
+  Visit m_visit;
+  ReadBuffer<Object> m_buffer;
+  std::size_t m_alreadyRead = 0;  ///< bytes of the next record
+};
 
 /// Lists the fields; neighbours of one name are one field.
 class FieldLister {
@@ -349,9 +396,9 @@ int ReadRecord(IStream* stream, int version, int first, Object& object, Visit vi
     return 0;
   }
   if (version >= kNewestRecordVersion) {
-    ReadFields(*stream, NewestVersion(), object, visit);
+    ObjectReader<NewestVersion, Object, Visit>(*stream, {}, visit).Read(object, false);
   } else {
-    ReadFields(*stream, version, object, visit);
+    ObjectReader<int, Object, Visit>(*stream, version, visit).Read(object, false);
   }
   return 1;
 }
