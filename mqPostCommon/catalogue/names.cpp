@@ -1,11 +1,9 @@
 #include <algorithm>
-#include <cstddef>
 
 #include <mqPostCommon/catalogue/display_flag.h>
 #include <mqPostCommon/catalogue/name_ids.h>
 #include <mqPostCommon/catalogue/names.h>
 #include <mqPostCommon/catalogue/texts.h>
-#include <mqPostCommon/platform/find_unit.h>
 
 namespace mqp {
 namespace {
@@ -231,8 +229,8 @@ When BeamCondition(int meshKind) noexcept {
 
 /// Leaves the text before the first colon; all of it when there is none or it stands in front.
 void CutAtColon(CString& text) {
-  if (const std::size_t colon = FindUnit(text.View(), MQ_TEXT(':')); colon > 0) {
-    text.Delete(static_cast<int>(colon), text.GetLength());
+  if (const int colon = text.Find(MQ_TEXT(':')); colon > 0) {
+    text.Delete(colon, text.GetLength());
   }
 }
 
@@ -275,7 +273,8 @@ CString vekPostCommonGetComponentNameShort(int analysisType, int resultType, int
 CString vekPostCommonGetComponentNameBrief(int analysisType, int resultType, int /*passOn*/,
                                            int component) {
   using namespace mqp;
-  const int result = std::max(resultType, 0);  // a negative one is below 2 as well
+  // A negative result is below 2 as well. No other row tells it from result 0.
+  const int result = std::max(resultType, 0);
   return LoadText(kBriefIndex.At(analysisType, result, ModeCondition(), component));
 }
 

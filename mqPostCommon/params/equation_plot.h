@@ -50,6 +50,7 @@ class MQPOSTCOMMON_API CmqEquationVariable : public CObject {
   [[nodiscard]] static std::vector<mqp::RecordField> GetRecordFields();
 
   // clang-format off
+  // With the length of the default, which would be counted for each variable that is read.
   CString m_strName{MQ_TEXT("Variable"), 8};  ///< the placeholder; those of a plot have double-quote characters
   int     m_nResultType = 2;                  ///< a `ResultType`; -1 for an unknown operand
   int     m_nComponent = 9;                   ///< 0-based component of the result; -1 for an unknown one

@@ -27,33 +27,25 @@ class CObject {
 
 namespace mqp {
 
-/// A doubly linked list of values. It owns its nodes, for which it takes memory ten by ten and gives
-/// it back when it becomes empty; what the values point to is the caller's. As in the framework it
-/// is not copied by itself; a list that is moved takes its nodes and their positions along and
-/// leaves an empty one. Positions handed in must come from this list and not be null unless said
-/// otherwise; an empty list has no head and no tail to return or remove.
+/// A doubly linked list of values. It owns its nodes, for which it takes memory ten by ten and
+/// gives it back when it becomes empty; what the values point to is the caller's. As in the
+/// framework it is not copied by itself; a list that is moved takes its nodes and their positions
+/// along and leaves an empty one. Positions handed in must come from this list and not be null
+/// unless said otherwise; an empty list has no head and no tail to return or remove.
 ///
 /// An element that is added takes memory: when there is none the function throws `std::bad_alloc`
 /// and the list is as it was.
 template <class Value>
 class LinkedList {
  public:
+  /// \param blockSize has no effect
   explicit LinkedList(int /*blockSize*/ = 10) {}
   LinkedList(const LinkedList&) = delete;
   LinkedList& operator=(const LinkedList&) = delete;
-  LinkedList(LinkedList&& other) noexcept
-      : m_head(std::exchange(other.m_head, nullptr)),
-        m_tail(std::exchange(other.m_tail, nullptr)),
-        m_count(std::exchange(other.m_count, 0)),
-        m_free(std::exchange(other.m_free, nullptr)),
-        m_blocks(std::exchange(other.m_blocks, nullptr)) {}
+  LinkedList(LinkedList&& other) noexcept { Swap(other); }
   LinkedList& operator=(LinkedList&& other) noexcept {
     LinkedList taken(std::move(other));
-    std::swap(m_head, taken.m_head);
-    std::swap(m_tail, taken.m_tail);
-    std::swap(m_count, taken.m_count);
-    std::swap(m_free, taken.m_free);
-    std::swap(m_blocks, taken.m_blocks);
+    Swap(taken);
     return *this;
   }
   ~LinkedList() { RemoveAll(); }
@@ -166,6 +158,13 @@ class LinkedList {
   static Node* ToNode(POSITION position) noexcept { return reinterpret_cast<Node*>(position); }
   static POSITION ToPosition(Node* node) noexcept { return reinterpret_cast<POSITION>(node); }
 
+  void Swap(LinkedList& other) noexcept {
+    std::swap(m_head, other.m_head);
+    std::swap(m_tail, other.m_tail);
+    std::swap(m_count, other.m_count);
+    std::swap(m_free, other.m_free);
+    std::swap(m_blocks, other.m_blocks);
+  }
   POSITION Insert(Node* previous, Node* next, const Value& value) {
     if (m_free == nullptr) {
       AddBlock();

@@ -97,8 +97,8 @@ class TextStore {
   /// Removes the units from `first` up to `last`, which the text has.
   void Erase(std::size_t first, std::size_t last) noexcept {
     mqChar* const units = Units();
-    Terminate(static_cast<std::size_t>(
-        std::copy(units + last, units + m_length, units + first) - units));
+    Terminate(
+        static_cast<std::size_t>(std::copy(units + last, units + m_length, units + first) - units));
   }
 
  private:

@@ -31,7 +31,8 @@ SUITES = {
 # its own name before these.
 SUITES_OF = {
     "catalogue": ["mqCatalogueTests", "mqInterpositionTests", "mqParamsTests", "mqListsTests"],
-    "params": ["mqParamsTests", "mqListsTests", "mqMaterialsTests", "mqFaultTests"],
+    "params": ["mqParamsTests", "mqListsTests", "mqMaterialsTests", "mqInterpositionTests",
+               "mqFaultTests"],
     "lists": ["mqListsTests"],
     "materials": ["mqMaterialsTests"],
     "display": ["mqDisplayTests"],

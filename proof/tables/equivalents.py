@@ -14,6 +14,7 @@ import re
 
 LIST = pathlib.Path(__file__).with_name("equivalents.json")
 CELL_SIZE = 10    # of an index: two lists, of which the first value and the count, and a condition
+LIST_SIZE = 4
 CHOICE_SIZE = 8   # two conditions, then by bytes what is chosen while none, the first, the second, both hold
 
 
@@ -28,11 +29,20 @@ def is_behind_text(table, mutant):
 
 
 def has_no_condition(table, mutant):
-    return number_at(table, mutant.rows[0] * CELL_SIZE + 8) == 0
+    return number_at(table, mutant.rows[0] * CELL_SIZE + 2 * LIST_SIZE) == 0
+
+
+def place_of_list(mutant):
+    cell, number = mutant.rows
+    return cell * CELL_SIZE + number * LIST_SIZE
+
+
+def is_never_taken(table, mutant):
+    return mutant.rows[1] == 1 and has_no_condition(table, mutant)
 
 
 def is_list_empty(table, mutant):
-    return number_at(table, mutant.rows[0] * CELL_SIZE + 2) == 0
+    return number_at(table, place_of_list(mutant) + 2) == 0
 
 
 def list_of(table, data, place):
@@ -51,7 +61,7 @@ def leaf_at(table, path):
 def reads_the_same(table, mutant):
     changed = bytearray(table.data)
     changed[mutant.offset:mutant.offset + len(mutant.bytes)] = mutant.bytes
-    place = mutant.rows[0] * CELL_SIZE + (4 if ".special" in mutant.member else 0)
+    place = place_of_list(mutant)
     return list_of(table, table.data, place) == list_of(table, bytes(changed), place)
 
 
@@ -79,6 +89,7 @@ def is_behind_no_member(table, mutant):
 
 WHERE = {"behind the end of a text": is_behind_text,
          "the cell has no condition": has_no_condition,
+         "it is the second list of a cell without a condition": is_never_taken,
          "there are no members": is_behind_no_member,
          "the list is empty": is_list_empty,
          "the list reads the same": reads_the_same,

@@ -46,6 +46,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 BIN = ROOT / "build/dev/bin"
 TOLD = ROOT / "build/tables"  # where the library tells its reads
 LIBRARY = "libmqPostCommon.so.0"
+STUDIES, RESULTS = 12, 73  # of the grid that an index is
 
 SUITES = ("mqCatalogueTests", "mqListsTests", "mqMaterialsTests", "mqParamsTests",
           "mqDisplayTests", "mqPlatformTests", "mqInterpositionTests", "mqReferenceTests")
@@ -320,7 +321,7 @@ def place_of(table, mutant):
     if mutant.rows:
         row = mutant.rows[0]
         if ".cells" in path or re.match(r"\[\d+\]\.(conditions|values)", path):
-            meaning = f" (study {row // 74}, result {row % 74})"
+            meaning = f" (study {row // RESULTS}, result {row % RESULTS})"
         elif path.startswith(".values[") and table.name.endswith("Index"):
             meaning = f" ({users_of(table, row)})"
         elif table.name.startswith(("g_", "text")):
@@ -331,13 +332,14 @@ def place_of(table, mutant):
 def users_of(table, place):
     """Which study, result and component a value of an index belongs to."""
     users = []
-    for cell in range(888):
+    for cell in range(STUDIES * RESULTS):
         for offset, kind in ((0, ""), (4, " under its condition")):
             first, count = (int.from_bytes(table.data[cell * 10 + offset + step:][:2], "little")
                             for step in (0, 2))
             if first <= place <= first + count:
                 component = place - first if place < first + count else "beyond the list"
-                users.append(f"study {cell // 74}, result {cell % 74}, component {component}{kind}")
+                users.append(f"study {cell // RESULTS}, result {cell % RESULTS}, "
+                             f"component {component}{kind}")
     more = f" and {len(users) - 1} more" if len(users) > 1 else ""
     return users[0] + more if users else "of no list"
 

@@ -1,9 +1,11 @@
-// A program that defines the loader itself takes the place of the library that brings one: every
-// text of the catalogue comes from here.
+// A program that defines the functions of the host itself takes the place of the library that
+// brings them: every text of the catalogue comes from here, and records are written with this copy.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <map>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -12,8 +14,10 @@
 #include <mqPostCommon/catalogue/names.h>
 #include <mqPostCommon/lists/list.h>
 #include <mqPostCommon/params/graph.h>
+#include <mqPostCommon/params/stream/strings.h>
 #include <mqPostCommon/platform/comm_funcs.h>
 #include <mqPostCommon/platform/integers.h>
+#include <mqPostCommon/platform/stream.h>
 #include <mqPostCommon/platform/text.h>
 #include <mqPostCommon/platform/wide_string.h>
 
@@ -41,6 +45,13 @@ int mqpLoadString(CString& text, UINT id) {
   }
   text = found->second;
   return 1;
+}
+
+/// Copies no more than three units, whatever the room.
+int STRING2LPUSHORT(const CString& text, unsigned short* units, int capacity) {
+  const int count = std::min({text.GetLength(), capacity, 3});
+  std::copy_n(text.GetString(), count, units);
+  return count;
 }
 
 namespace mqp::test {
@@ -214,6 +225,41 @@ TEST_F(OwnStringTableTest, NoTextIsAskedForAsTheTitleBehindTheSevenBeamStresses)
     graph.m_YAxis.m_nComponent = component;
     static_cast<void>(graph.GetYTitle(4, 0));
     EXPECT_EQ(TakeAsked(), Ids()) << component;
+  }
+}
+
+/// Keeps what is written.
+class Sink : public IStream {
+ public:
+  HRESULT Read(void* /*buffer*/, ULONG /*size*/, ULONG* /*transferred*/) override { return E_FAIL; }
+  HRESULT Write(const void* buffer, ULONG size, ULONG* /*transferred*/) override {
+    written.append(static_cast<const char*>(buffer), size);
+    return S_OK;
+  }
+  std::string written;
+};
+
+/// Leaves bytes where the next functions have their variables.
+[[gnu::noinline]] void FillTheStack() {
+  volatile char bytes[32768];
+  for (volatile char& byte : bytes) {
+    byte = 0x55;
+  }
+}
+
+TEST(OwnCopy, WhatItLeavesOutOfATextIsStoredAsZeros) {
+  for (const int length : {1, 3, 4, 31, 32, 33, 100, 1024}) {
+    CString text(MQ_TEXT('x'), length);
+    Sink sink;
+    FillTheStack();
+    EXPECT_EQ(CStringWriteToStream(&sink, &text), 1);
+    ASSERT_EQ(sink.written.size(), 4U + 2U * static_cast<unsigned>(length));
+    std::string units;
+    for (int unit = 0; unit < length; ++unit) {
+      units += unit < 3 ? 'x' : '\0';
+      units += '\0';
+    }
+    EXPECT_EQ(sink.written.substr(4), units) << length;
   }
 }
 

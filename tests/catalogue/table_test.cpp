@@ -101,7 +101,7 @@ TEST(CodeSets, OfComponentsMayTakeInAllThatNoRowLists) {
   EXPECT_EQ(Members((To(1, 2) | ComponentSet{5}).listed), (std::vector<int>{1, 2, 5}));
 }
 
-TEST(CodeSets, CodesBehindTheLastShareAPlace) {
+TEST(CodeSets, NegativeCodesAndThoseBehindTheLastShareAPlace) {
   EXPECT_EQ(StudySlot(0), 0U);
   EXPECT_EQ(StudySlot(10), 10U);
   EXPECT_EQ(StudySlot(11), 11U);

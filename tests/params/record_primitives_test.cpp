@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <mqPostCommon/params/stream/record.h>
@@ -156,7 +157,7 @@ TEST(RecordPrimitives, AFieldIsReadFromTheVersionOnThatHasIt) {
   }
 }
 
-/// What reads it into an empty list keeps what the stream does not deliver: component 9.
+/// A variable that is not read has component 9.
 TEST(RecordPrimitives, RecordsWithoutATextAreReadAsFarAsTheStreamHasThem) {
   RecordBytes record = RecordBytes().Integer(1).Double(2.5).Text(MQ_TEXT("t")).Integer(3);
   record.Integer(0x01010101).Integer(0x02020202).Integer(0x03030303).Integer(7);
@@ -179,16 +180,106 @@ TEST(RecordPrimitives, RecordsWithoutATextAreReadAsFarAsTheStreamHasThem) {
   }
 }
 
-/// Counts how often it is read from.
-class CountingStream : public host::MemoryStream {
- public:
-  using MemoryStream::MemoryStream;
-  HRESULT Read(void* buffer, ULONG size, ULONG* transferred) override {
-    ++calls;
-    return MemoryStream::Read(buffer, size, transferred);
-  }
-  int calls = 0;
+/// An object of a list with as many numbers as it has room for.
+struct Numbers : CObject {
+  ManyNumbers values = NumbersFrom(-77);
 };
+struct NumbersList {
+  OwnedList<Numbers> children;
+};
+
+TEST(RecordPrimitives, RecordsOfManyNumbersAreReadOneAfterTheOther) {
+  RecordBytes count = RecordBytes().Integer(3);
+  ByteString bytes = count.Get();
+  for (const int first : {1000, 2000, 3000}) {
+    const ByteString record = BytesOf(NumbersFrom(first));
+    bytes.insert(bytes.end(), record.begin(), record.end());
+  }
+  for (const std::size_t missing : {std::size_t{0}, std::size_t{3601}}) {
+    host::MemoryStream stream(FirstBytes(bytes, bytes.size() - missing));
+    NumbersList list;
+    const auto visit = [](auto& object, auto& visitor) {
+      visitor.Records(1, "children", object.children,
+                      [](auto& child, auto& inner) { kVisitNumbers(child.values, inner); });
+    };
+    EXPECT_EQ(ReadRecord(&stream, 1, 1, list, visit), 1);
+    ASSERT_EQ(list.children.GetCount(), 3);
+    std::vector<ByteString> expected = {BytesOf(NumbersFrom(1000)), BytesOf(NumbersFrom(2000)),
+                                        BytesOf(NumbersFrom(3000))};
+    if (missing > 0) {  // the whole of the last one, and a byte of the one before
+      expected[1].back() = BytesOf(NumbersFrom(-77)).back();
+      expected[2] = BytesOf(NumbersFrom(-77));
+    }
+    POSITION position = list.children.GetHeadPosition();
+    for (const ByteString& record : expected) {
+      EXPECT_EQ(ByteDifference(BytesOf(list.children.GetNext(position)->values), record), "")
+          << missing;
+    }
+  }
+}
+
+/// An object of a list whose record has numbers with defaults before, between and behind texts.
+struct Mixed : CObject {
+  int first = 11;
+  double second = 2.5;
+  CString text = MQ_TEXT("old");
+  int third = -7;
+  CString other;
+  double last = 0.125;
+};
+struct MixedList {
+  OwnedList<Mixed> children;
+  int behind = 99;
+};
+
+constexpr auto kVisitMixed = [](auto& record, auto& visitor) {
+  visitor.Integers(1, "first", ValuesOf(record.first));
+  visitor.Doubles(1, "second", ValuesOf(record.second));
+  visitor.Strings(1, "text", ValuesOf(record.text));
+  visitor.Integers(1, "third", ValuesOf(record.third));
+  visitor.Strings(1, "other", ValuesOf(record.other));
+  visitor.Doubles(1, "last", ValuesOf(record.last));
+};
+
+TEST(RecordPrimitives, RecordsOfAListAreReadLikeSingleOnesWhereverTheStreamEnds) {
+  RecordBytes record;
+  record.Integer(3);
+  for (const int index : {1, 2, 3}) {
+    record.Integer(index).Double(index + 0.5).Text(MQ_TEXT("abc")).Integer(10 * index);
+    record.Text(index == 2 ? MQ_TEXT("") : MQ_TEXT("d")).Double(0.25 * index);
+  }
+  const ByteString bytes = record.Integer(5).Get();
+  for (std::size_t length = 4; length <= bytes.size(); ++length) {
+    SCOPED_TRACE(length);
+    host::MemoryStream stream(FirstBytes(bytes, length));
+    MixedList list;
+    const auto visit = [](auto& object, auto& visitor) {
+      visitor.Records(1, "children", object.children, kVisitMixed);
+      visitor.Integers(1, "behind", ValuesOf(object.behind));
+    };
+    EXPECT_EQ(ReadRecord(&stream, 1, 1, list, visit), 1);
+    EXPECT_EQ(stream.Position(), length);
+    ASSERT_EQ(list.children.GetCount(), 3);
+
+    host::MemoryStream same(FirstBytes(bytes, length));
+    int count = 0;
+    same.Read(&count, sizeof count, nullptr);
+    for (POSITION position = list.children.GetHeadPosition(); position != nullptr;) {
+      Mixed single;
+      EXPECT_EQ(ReadRecord(&same, 1, 1, single, kVisitMixed), 1);
+      const Mixed& child = *list.children.GetNext(position);
+      EXPECT_EQ(child.first, single.first);
+      EXPECT_EQ(child.second, single.second);
+      EXPECT_EQ(child.text, single.text);
+      EXPECT_EQ(child.third, single.third);
+      EXPECT_EQ(child.other, single.other);
+      EXPECT_EQ(child.last, single.last);
+    }
+    int behind = 99;
+    same.Read(&behind, sizeof behind, nullptr);
+    EXPECT_EQ(list.behind, behind);
+  }
+}
 
 TEST(RecordPrimitives, ARecordOfAListIsReadInOneCall) {
   const auto callsFor = [](int variables) {
@@ -202,7 +293,7 @@ TEST(RecordPrimitives, ARecordOfAListIsReadInOneCall) {
     plot.ReadFromStream(&stream, 890109);
     EXPECT_EQ(plot.m_listVariables.GetCount(), variables);
     EXPECT_EQ(stream.Position(), stream.Bytes().size());
-    return stream.calls;
+    return stream.reads;
   };
   EXPECT_EQ(callsFor(0), 4);          // each ends with the count of a text or of the variables
   EXPECT_EQ(callsFor(1), 4 + 1 + 1);  // the count of the first name by itself

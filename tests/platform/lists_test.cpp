@@ -434,7 +434,9 @@ TEST_F(ThreeTexts, MoveIntoAListThatLosesWhatItHeld) {
     EXPECT_EQ(target.GetTailPosition(), last);
     EXPECT_EQ(Read(source), Expected());  // promised of a list that was moved
     source.AddHead(MQ_TEXT("c"));
+    target.AddTail(MQ_TEXT("d"));
     EXPECT_EQ(Read(source), Expected{MQ_TEXT("c")});
+    EXPECT_EQ(Read(target), (Expected{MQ_TEXT("a"), MQ_TEXT("b"), MQ_TEXT("d")}));
   }
   m_list = CStringList();
   EXPECT_EQ(Read(m_list), Expected());

@@ -64,7 +64,8 @@ inline constexpr int kMaximumRecordCount = 65536;
 /// Stores the first so many units of a text.
 /// \param bytes room for the longest text of a record
 inline void StoreUnits(const CString& text, int count, std::byte* bytes) {
-  // What a host does not copy is zeros; before a short text they are stored without a call.
+  // What a host does not copy is zeros. There is room for 64 bytes in any case, which are cleared
+  // without a call; a short text needs no more.
   constexpr std::size_t kShort = 64;
   const std::size_t size = sizeof(mqChar) * static_cast<std::size_t>(count);
   if (size <= kShort) {
@@ -78,8 +79,7 @@ inline void StoreUnits(const CString& text, int count, std::byte* bytes) {
 /// Fills bytes from a stream and takes their first so many units for a text, up to the first zero.
 /// What the stream does not deliver of the units counts as zeros, so that it ends the text.
 /// \param bytes the units, aligned as such, and whatever else is to be read with them, which keeps
-///              what is not delivered; no fewer than a `PaddedText` has may be read from where they
-///              begin
+///              what is not delivered
 void ReadUnits(IStream& stream, std::span<std::byte> bytes, int count, CString& text);
 
 /// What goes into a stream in one call, and room behind it for what is stored before it is looked
@@ -292,14 +292,16 @@ class RecordReader {
 };
 
 /// Reads records of one class that lie behind each other. The fields before the first text or list
-/// of a record are read together with the end of the record before it.
+/// of a record are read together with the end of the record before it: a call costs more than they
+/// do. A stream that refuses such a call as a whole loses the end of the one with the begin of the
+/// other.
 template <class Version, class Object, class Visit>
 class ObjectReader {
  public:
   ObjectReader(IStream& stream, Version version, Visit visit)
       : m_stream(stream), m_version(version), m_visit(visit) {}
 
-  /// \param object has the same values each time
+  /// \param object with its defaults, which are taken for those of the next one as well
   /// \param goesOn whether another record follows, which is read next
   void Read(Object& object, bool goesOn) {
     std::byte* const bytes = m_buffer.bytes.data() + kMaximumTextSize;
@@ -308,8 +310,8 @@ class ObjectReader {
     m_visit(object, storer);
     std::byte*& end = *storer.EndRun();
     const auto firstRun = static_cast<std::size_t>(*runEnds - bytes);
-    // What has been read of this record goes to its begin, and what its fields hold to its end, for
-    // those of the next one.
+    // The first run of the next record is read behind this one, over its defaults. There the first
+    // run of this one was read, which now changes places with them.
     if (m_alreadyRead > 0) {
       std::swap_ranges(bytes, bytes + firstRun, end);
     } else if (goesOn) {

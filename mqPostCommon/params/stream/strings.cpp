@@ -6,14 +6,12 @@
 
 #include <mqPostCommon/params/stream/record.h>
 #include <mqPostCommon/params/stream/strings.h>
-#include <mqPostCommon/platform/find_unit.h>
 
 void mqp::ReadUnits(IStream& stream, std::span<std::byte> bytes, int count, CString& text) {
   const auto* const units = reinterpret_cast<const mqChar*>(bytes.data());
   std::memset(bytes.data(), 0, sizeof(mqChar) * static_cast<std::size_t>(count));
   stream.Read(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
-  const mqTextView all(units, static_cast<std::size_t>(count));
-  text = PaddedText{units, FindUnit(all, 0)};
+  text = mqTextView(units, std::find(units, units + count, mqChar{0}));
 }
 
 int CStringWriteToStream(IStream* stream, CString* text) {
