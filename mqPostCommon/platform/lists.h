@@ -170,7 +170,7 @@ class LinkedList {
       AddBlock();
     }
     std::construct_at(&m_free->value, value);
-    Node* const node = std::exchange(m_free, m_free->next);
+    Node* const node = std::exchange(m_free, m_free->next);  // NOLINT(clang-analyzer*): not null
     node->previous = previous;
     node->next = next;
     (previous == nullptr ? m_head : previous->next) = node;
