@@ -130,7 +130,8 @@ class MQPOSTCOMMON_API CmqEquationPlotParam {
   /// Reads a record. The variables that it has are appended to those that the plot holds already,
   /// none for a count below 1; those that the stream does not deliver have their defaults.
   /// Fields that a stream which ends early does not deliver keep their values, and so does a text
-  /// that is stored empty.
+  /// that is stored empty. The end of a variable is asked for together with the begin of the next
+  /// one: a stream that delivers nothing of what it does not have whole may lose both.
   /// \param stream  positioned at the record, owned by the caller
   /// \param version the version of the document, at least 890109
   /// \return 1, also when the record claims more than 65,536 variables, of which the first 65,536
